@@ -1,0 +1,293 @@
+// varnholt-cli read, program, check and test: the commands that touch a device.
+#include "cli/Argumente.h"
+#include "cli/Kommandos.h"
+#include "cli/Port_Wahl.h"
+#include "cli/Quelle.h"
+#include "core/commands.h"
+#include "core/messages.h"
+#include "core/settings.h"
+#include "core/shared_state.h"
+#include "files/Datei_Zustand.h"
+#include "programmer/Brenner_Zustand.h"
+#include "programmer/Brennmenue.h"
+#include "programmer/CheckIC.h"
+#include "programmer/Hardware_Test1.h"
+#include "programmer/Lesen.h"
+#include "programmer/Specifications.h"
+
+#include <fmt/format.h>
+
+#include <functional>
+#include <iostream>
+#include <memory>
+#include <utility>
+
+namespace varnholt {
+namespace {
+
+// What all device commands take.
+struct Geraete_Optionen {
+    std::string Datei{};
+    std::string Geraet{};
+    std::string Port{};
+    std::string Spur{};
+    bool        Ohne_Board_Test = false;
+    bool        Ohne_IC_Test    = false;
+};
+
+struct Program_Optionen : Geraete_Optionen {
+    std::string Editor_Von{}, Editor_Bis{}, IC_Von{};
+    std::string Split          = "none";
+    bool        Null_Darunter  = false;
+    bool        Loeschen       = false;
+    bool        Mit_FF         = false;
+    bool        Ohne_Pruefung_Dabei  = false;
+    bool        Ohne_Pruefung_Danach = false;
+    bool        Ohne_Lesen           = false;
+};
+
+struct Check_Optionen : Geraete_Optionen {
+    std::string Split       = "none";
+    bool        Abweichungen = false;
+};
+
+// Selects the device, opens the port, does the job, closes the port.
+int Am_Port(const Geraete_Optionen& o, const std::function<int()>& Tun)
+{
+    C_Brenner = !o.Ohne_Board_Test;
+    C_IC      = !o.Ohne_IC_Test;
+    if (!Geraet_Waehlen(o.Geraet))
+        return Status_Falsch;
+    Port_Wahl Port;
+    if (const int Status = Port.Oeffnen(o.Port, o.Spur); Status != Status_Fertig)
+        return Status;
+    return Port.Schliessen(Tun());
+}
+
+int Nicht_Bedient(const std::string& Geraet)
+{
+    return Falsche_Zeile("this is not available yet for the device " + Geraet);
+}
+
+int Read(const Geraete_Optionen& o)
+{
+    return Am_Port(o, [&o] {
+        if (!Lesen_Bedient())
+            return Nicht_Bedient(o.Geraet);
+        Modus = Modus_Hex;
+        MNU_IC_Lesen_Click();
+        return Antwort == Antwort_Abbrechen ? int{Status_Misslungen} : Bild_Speichern_Unter(o.Datei);
+    });
+}
+
+void Vergleich_Ausgeben()
+{
+    std::cout << CheckIC.Zustand_IC << '\n';
+    if (!CheckIC.Ergebnis.empty())
+        std::cout << CheckIC.Ergebnis << '\n';
+}
+
+// Puts a number into a field of the dialog; an empty text leaves the field. False: no number.
+bool Feld_Setzen(const std::string& Text, void (*Feld_Change)(std::string_view))
+{
+    if (Text.empty())
+        return true;
+    const auto Zahl = Zahl_Von(Text);
+    if (Zahl)
+        Feld_Change(std::to_string(*Zahl));
+    return Zahl.has_value();
+}
+
+Splitting Splitting_Von(const std::string& Text)
+{
+    if (Text == "even")
+        return Splitting::Gerade;
+    return Text == "odd" ? Splitting::Ungerade : Splitting::Kein;
+}
+
+bool Felder_Ausfuellen(const Program_Optionen& o)
+{
+    Splitting_Waehlen(Splitting_Von(o.Split));
+    Brennmenue.DAT00   = o.Null_Darunter;
+    Brennmenue.Löschen = o.Loeschen;
+    return Feld_Setzen(o.Editor_Von, ED_EBA_D_Change) && Feld_Setzen(o.Editor_Bis, ED_LBA_D_Change) &&
+           Feld_Setzen(o.IC_Von, BR_EBA_D_Change);
+}
+
+// Why the button `Brennen` is off.
+int Bereich_Ablehnen()
+{
+    if (Letztes_Byte() < 0) {
+        Auf_Fehlerausgabe(In_Sprache({"Das Bild ist leer, es gibt nichts zu brennen.",
+                                      "The image is empty, there is nothing to program."}));
+        return Status_Misslungen;
+    }
+    return Falsche_Zeile(fmt::format("the range doesn't fit: editor {} to {}, IC from {}, device up "
+                                     "to {}",
+                                     Brennmenue.ED_EBA_D, Brennmenue.ED_LBA_D, Brennmenue.BR_EBA_D,
+                                     Brennmenue.IC_GS_D));
+}
+
+int Brennen(const Program_Optionen& o)
+{
+    if (!Brennen_Bedient())
+        return Nicht_Bedient(o.Geraet);
+    MNU_IC_Brennen_Click();
+    if (!Brennmenue.Offen || Antwort == Antwort_Abbrechen)
+        return Status_Misslungen;
+    if (!Felder_Ausfuellen(o))
+        return Falsche_Zeile("an address is no number");
+    if (!Brennmenue.Brennen_Aktiv)
+        return Bereich_Ablehnen();
+    if (Brennmenue.Löschen && !Löschen_Bedient())
+        return Falsche_Zeile("erasing is not available yet for the device " + o.Geraet);
+    Brennen_Click();
+    if (Brenn_Ergebnis != Brenn_Ausgang::Fertig)
+        return Status_Misslungen;
+    if (!C_IC_nach_B)
+        return Status_Fertig;
+    Vergleich_Ausgeben();
+    return CheckIC.Gleich ? Status_Fertig : Status_Misslungen;
+}
+
+int Program(const Program_Optionen& o)
+{
+    C_IC_vor_B  = !o.Ohne_Lesen;
+    C_IC_bei_B  = !o.Ohne_Pruefung_Dabei;
+    C_IC_nach_B = !o.Ohne_Pruefung_Danach;
+    No_FF       = !o.Mit_FF;
+    if (const int Status = Quelle_Oder_Bild_Laden(o.Datei); Status != Status_Fertig)
+        return Status;
+    return Am_Port(o, [&o] { return Brennen(o); });
+}
+
+int Vergleichen_Mit_IC(const Check_Optionen& o)
+{
+    if (!Lesen_Bedient())
+        return Nicht_Bedient(o.Geraet);
+    Antwort = Antwort_Abbrechen;
+    if (Programm_Bereit())
+        CheckIC_Start(o.Split == "odd", o.Split == "even");
+    if (!CheckIC.Offen)
+        return Status_Misslungen;
+    Vergleich_Ausgeben();
+    if (o.Abweichungen && CheckIC.Button_Dat_Aktiv && !CheckIC.Gleich) {
+        Button_Dat_Click();
+        std::cout << CheckIC.Text << '\n';
+    }
+    return CheckIC.Gleich ? Status_Fertig : Status_Misslungen;
+}
+
+int Check(const Check_Optionen& o)
+{
+    if (const int Status = Quelle_Oder_Bild_Laden(o.Datei); Status != Status_Fertig)
+        return Status;
+    return Am_Port(o, [&o] { return Vergleichen_Mit_IC(o); });
+}
+
+int Test(const Geraete_Optionen& o)
+{
+    return Am_Port(o, [] {
+        const Test1_Ergebnis e = Test1_Durchfuehren();
+        std::cout << In_Sprache(Test1_Titel(e)) << '\n';
+        Auf_Fehlerausgabe(In_Sprache(Test1_Text(e)));
+        if (e.Fehler == 0)
+            return int{Status_Fertig};
+        return int{Test1_Datei_Schreiben(e) ? Status_Misslungen : Status_Datei};
+    });
+}
+
+void Port_Anmelden(CLI::App* k, Geraete_Optionen& o)
+{
+    k->add_option("--port", o.Port, "sim, sim:FILE, ppdev:/dev/parport0 or io:378")
+        ->required()
+        ->type_name("PORT");
+    k->add_flag("--no-check-board", o.Ohne_Board_Test, "Don't check the programmer board first");
+    k->add_flag("--no-check-ic", o.Ohne_IC_Test, "Don't check the microcontroller first");
+    k->add_option("--trace", o.Spur, "Write every operation of the port to a file")
+        ->type_name("FILE");
+}
+
+void Geraet_Anmelden(CLI::App* k, Geraete_Optionen& o)
+{
+    k->add_option("--device", o.Geraet, "The device's name, in any case")
+        ->required()
+        ->type_name("NAME");
+    Port_Anmelden(k, o);
+}
+
+void Split_Anmelden(CLI::App* k, std::string& Split)
+{
+    k->add_option("--split", Split, "Only the even or the odd bytes of the image (default: none)")
+        ->check(CLI::IsMember({"none", "even", "odd"}));
+}
+
+void Datei_Anmelden(CLI::App* k, Geraete_Optionen& o)
+{
+    k->add_option("FILE", o.Datei, "A source, which is assembled, or an image")
+        ->required()
+        ->type_name("");
+}
+
+void Read_Anmelden(Kommandozeile& Zeile)
+{
+    auto      o = std::make_shared<Geraete_Optionen>();
+    CLI::App* k = Zeile.Kommando("read", "Read a device into a file", [o] { return Read(*o); });
+    k->add_option("-o", o->Datei, "The file to write; its extension chooses the format")
+        ->required()
+        ->type_name("FILE");
+    Geraet_Anmelden(k, *o);
+}
+
+void Program_Anmelden(Kommandozeile& Zeile)
+{
+    auto      o = std::make_shared<Program_Optionen>();
+    CLI::App* k = Zeile.Kommando("program", "Program a device from a source or an image, and verify",
+                                 [o] { return Program(*o); });
+    Datei_Anmelden(k, *o);
+    Geraet_Anmelden(k, *o);
+    k->add_option("--editor-from", o->Editor_Von, "First address of the image (default: 0)")
+        ->type_name("A");
+    k->add_option("--editor-to", o->Editor_Bis, "Last address of the image (default: last used one)")
+        ->type_name("A");
+    k->add_option("--ic-from", o->IC_Von, "First address in the device (default: 0)")
+        ->type_name("A");
+    Split_Anmelden(k, o->Split);
+    k->add_flag("--zero-below", o->Null_Darunter, "Program 00 below the first address in the device");
+    k->add_flag("--erase", o->Loeschen, "Erase the device first (flash and EEPROM)");
+    k->add_flag("--write-ff", o->Mit_FF, "Program FF bytes too, up to the device's end");
+    k->add_flag("--no-verify-during", o->Ohne_Pruefung_Dabei, "Don't check each byte");
+    k->add_flag("--no-verify-after", o->Ohne_Pruefung_Danach, "Don't compare at the end");
+    k->add_flag("--no-read-before", o->Ohne_Lesen, "Don't read the device before programming");
+}
+
+void Check_Anmelden(Kommandozeile& Zeile)
+{
+    auto      o = std::make_shared<Check_Optionen>();
+    CLI::App* k = Zeile.Kommando("check", "Compare a device with a source or an image",
+                                 [o] { return Check(*o); });
+    Datei_Anmelden(k, *o);
+    Geraet_Anmelden(k, *o);
+    Split_Anmelden(k, o->Split);
+    k->add_flag("--differences", o->Abweichungen, "Print the table of differences");
+}
+
+void Test_Anmelden(Kommandozeile& Zeile)
+{
+    auto      o = std::make_shared<Geraete_Optionen>();
+    CLI::App* k = Zeile.Kommando("test", "Test the Eprommer board: all bytes through its data path",
+                                 [o] { return Test(*o); });
+    Port_Anmelden(k, *o);
+}
+
+} // namespace
+
+void Brenner_Anmelden(Kommandozeile& Zeile)
+{
+    Read_Anmelden(Zeile);
+    Program_Anmelden(Zeile);
+    Check_Anmelden(Zeile);
+    Test_Anmelden(Zeile);
+}
+
+} // namespace varnholt

@@ -1,0 +1,137 @@
+// varnholt-cli: parses the command line, runs one command, returns its status.
+#include "cli/Kommandos.h"
+#include "core/paths.h"
+#include "core/settings.h"
+#include "core/shared_state.h"
+#include "files/Datei_Zustand.h"
+#include "programmer/Specifications.h"
+
+#include <cstdio>
+#include <exception>
+#include <iostream>
+#include <utility>
+
+#ifndef VARNHOLT_VERSION
+#define VARNHOLT_VERSION "0.0.0"
+#endif
+
+namespace varnholt {
+namespace {
+
+std::string Mit_Trenner(std::string Ordner)
+{
+    if (!Ordner.empty() && Ordner.back() != '/')
+        Ordner += '/';
+    return Ordner;
+}
+
+// The state that every command starts from: the values of a first start.
+void Vorbereiten(const Kommandozeile& Zeile)
+{
+    Sprache       = Zeile.Sprach_Wahl;
+    Programm_Pfad = Zeile.Home.empty() ? Programm_Pfad_Bestimmen() : Mit_Trenner(Zeile.Home);
+    Bild_Loeschen();
+    Eprommer_Version = 32;
+    Tessel2_Version  = 12;
+}
+
+void Anmelden(Kommandozeile& Zeile)
+{
+    CLI::App& App = Zeile.App;
+    App.require_subcommand(1);
+    App.fallthrough();
+    App.option_defaults()->always_capture_default(false);
+    App.set_version_flag("--version", "varnholt-cli " VARNHOLT_VERSION);
+    App.set_help_all_flag("--help-all", "Help on the program and on every command");
+    App.add_option("--language", Zeile.Sprach_Wahl, "Language of the texts: D or E (default: E)")
+        ->check(CLI::IsMember({"D", "E"}));
+    App.add_option("--home", Zeile.Home, "Folder with Spec.ini, mc and include")
+        ->type_name("DIR");
+    App.footer("Exit status: 0 done; 1 the job failed (assembler error, files differ, device fault, "
+               "verify failed);\n2 the command line is wrong; 3 a file can't be read or written.\n"
+               "Numbers may be decimal, 0x1F or 1Fh; `-` is standard input or output where a file "
+               "is meant.");
+    Assemble_Anmelden(Zeile);
+    Dateien_Anmelden(Zeile);
+    Geraete_Anmelden(Zeile);
+    Brenner_Anmelden(Zeile);
+    Spaetere_Anmelden(Zeile);
+}
+
+int Ausfuehren(int argc, char** argv)
+{
+    Kommandozeile Zeile;
+    Anmelden(Zeile);
+    if (argc == 2 && std::string_view(argv[1]) == "--man") {
+        std::cout << Handbuch_Seite(Zeile.App);
+        return Status_Fertig;
+    }
+    try {
+        Zeile.App.parse(argc, argv);
+    } catch (const CLI::ParseError& Fehler) {
+        return Zeile.App.exit(Fehler) == 0 ? Status_Fertig : Status_Falsch;
+    }
+    return Zeile.Status;
+}
+
+} // namespace
+
+CLI::App* Kommandozeile::Kommando(const std::string&   Name,
+                                  const std::string&   Text,
+                                  std::function<int()> Tut)
+{
+    CLI::App* Unter = App.add_subcommand(Name, Text);
+    Unter->fallthrough();
+    Unter->callback([this, Tut = std::move(Tut)] {
+        Vorbereiten(*this);
+        Status = Tut();
+    });
+    return Unter;
+}
+
+int Status_Der_Datei()
+{
+    switch (Datei_Fehler) {
+    case Dateifehler::Keiner: return Status_Fertig;
+    case Dateifehler::Nicht_Gefunden:
+    case Dateifehler::Lesefehler:
+    case Dateifehler::Schreibfehler: return Status_Datei;
+    case Dateifehler::Abgelehnt:
+    case Dateifehler::Teilladen_Offen: break;
+    }
+    return Status_Misslungen;
+}
+
+int Falsche_Zeile(const std::string& Text)
+{
+    Auf_Fehlerausgabe("varnholt-cli: " + Text);
+    return Status_Falsch;
+}
+
+bool Geraet_Waehlen(const std::string& Name)
+{
+    if (Name.empty())
+        return true;
+    Spec_Lesen();
+    const int Nummer = Geraet_Suchen(Name);
+    if (Nummer < 0) {
+        Falsche_Zeile("there is no device " + Name + " in Spec.ini");
+        return false;
+    }
+    IC_Waehlen(Nummer);
+    return std::exchange(Abbruch, false) == false;
+}
+
+} // namespace varnholt
+
+int main(int argc, char** argv)
+{
+    try {
+        return varnholt::Ausfuehren(argc, argv);
+    } catch (const std::bad_alloc&) {
+        std::fputs("varnholt-cli: out of memory\n", stderr);
+    } catch (const std::exception& Fehler) {
+        std::fprintf(stderr, "varnholt-cli: %s\n", Fehler.what());
+    }
+    return varnholt::Status_Datei;
+}

@@ -1,0 +1,26 @@
+// Messages in both languages, chosen by `Sprache` at the point of use.
+#include "core/messages.h"
+
+#include "core/shared_state.h"
+
+namespace varnholt {
+namespace {
+
+const std::string Kein_Text{};
+
+} // namespace
+
+const std::string& In_Sprache(const Text_Paar& Text)
+{
+    if (Sprache == "D")
+        return Text.D;
+    return Sprache == "E" ? Text.E : Kein_Text;
+}
+
+void Melden(const Text_Paar& Text, const Text_Paar& Titel, Knoepfe Tasten, Symbol Zeichen)
+{
+    if (Sprache == "D" || Sprache == "E")
+        Antwort = Plattform.Box->Zeigen({In_Sprache(Titel), In_Sprache(Text), Tasten, Zeichen});
+}
+
+} // namespace varnholt

@@ -1,0 +1,100 @@
+// Paths of the platform: the program folder, and names that come out of texts.
+#include "core/paths.h"
+
+#include "core/codepage.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <unistd.h>
+
+namespace varnholt {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path Ordner_Des_Programms()
+{
+    std::error_code Fehler;
+    const fs::path  Programm = fs::read_symlink("/proc/self/exe", Fehler);
+    return Fehler ? fs::path{} : Programm.parent_path();
+}
+
+fs::path Umgebung(const char* Name)
+{
+    const char* Wert = std::getenv(Name);
+    return Wert != nullptr ? fs::path(Wert) : fs::path{};
+}
+
+bool Haelt_Programmdateien(const fs::path& Ordner)
+{
+    std::error_code Fehler;
+    return !Ordner.empty() && fs::exists(Ordner / "Spec.ini", Fehler);
+}
+
+// Where the installed files lie: beside the executable's prefix, in its share folder.
+fs::path Installierte_Dateien()
+{
+    for (const fs::path& Ordner : {Ordner_Des_Programms().parent_path() / "share/varnholt",
+                                   fs::path("/usr/local/share/varnholt"),
+                                   fs::path("/usr/share/varnholt")})
+        if (Haelt_Programmdateien(Ordner))
+            return Ordner;
+    return {};
+}
+
+fs::path Benutzer_Ordner()
+{
+    const fs::path Daten = Umgebung("XDG_DATA_HOME");
+    return (Daten.empty() ? Umgebung("HOME") / ".local/share" : Daten) / "varnholt";
+}
+
+std::string Mit_Trenner(const fs::path& Ordner) { return (Ordner / "").string(); }
+
+} // namespace
+
+fs::path Pfad_Aus_Text(std::string_view UTF8)
+{
+    std::string Text(UTF8);
+    std::replace(Text.begin(), Text.end(), '\\', '/');
+    return fs::path(Text);
+}
+
+std::optional<fs::path> Datei_Suchen(const fs::path& Ordner, std::string_view Name)
+{
+    std::error_code Fehler;
+    const fs::path  Gesucht = Ordner / Pfad_Aus_Text(Name).relative_path();
+    if (fs::is_regular_file(Gesucht, Fehler))
+        return Gesucht;
+    const std::string Letzter = Gesucht.filename().string();
+    const fs::path    Wo = Gesucht.parent_path().empty() ? fs::path(".") : Gesucht.parent_path();
+    std::optional<fs::path> Treffer;
+    for (fs::directory_iterator i(Wo, Fehler), Ende; !Fehler && i != Ende; i.increment(Fehler)) {
+        if (!Gleich_Ohne_Fall(i->path().filename().string(), Letzter) ||
+            !i->is_regular_file(Fehler))
+            continue;
+        if (!Treffer || i->path() < *Treffer) // the same choice whatever the folder's order
+            Treffer = i->path();
+    }
+    return Treffer;
+}
+
+std::string Programm_Pfad_Bestimmen()
+{
+    if (const fs::path Gewaehlt = Umgebung("VARNHOLT_HOME"); !Gewaehlt.empty())
+        return Mit_Trenner(Gewaehlt);
+    const fs::path Eigener = Ordner_Des_Programms();
+    if (Haelt_Programmdateien(Eigener) && access(Eigener.c_str(), W_OK) == 0)
+        return Mit_Trenner(Eigener);
+    const fs::path  Benutzer = Benutzer_Ordner();
+    const fs::path  Vorlage  = Installierte_Dateien();
+    std::error_code Fehler;
+    fs::create_directories(Benutzer, Fehler);
+    if (!Vorlage.empty() && !Haelt_Programmdateien(Benutzer))
+        fs::copy(Vorlage, Benutzer,
+                 fs::copy_options::recursive | fs::copy_options::skip_existing, Fehler);
+    // A folder that can't be made (read-only home): the installed files serve as they are.
+    return Mit_Trenner(Haelt_Programmdateien(Benutzer) || Vorlage.empty() ? Benutzer : Vorlage);
+}
+
+} // namespace varnholt

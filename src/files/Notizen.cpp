@@ -1,0 +1,54 @@
+// The note file beside a document.
+#include "files/Notizen.h"
+
+#include "core/platform.h"
+#include "core/shared_state.h"
+#include "files/Datei_Zustand.h"
+#include "files/Dateimeldungen.h"
+#include "files/Dateinamen.h"
+
+namespace varnholt {
+namespace {
+
+std::string Neben_Dem_Dokument(std::string_view Endung)
+{
+    return std::string(Ohne_Letzte_Zeichen(Datei_Name, 4)).append(Endung);
+}
+
+bool Vorhanden(const std::string& Name)
+{
+    std::error_code Fehler;
+    return std::filesystem::is_regular_file(Name, Fehler);
+}
+
+// The file to load, empty when there is none.
+std::string Notiz_Datei_Suchen(bool Mit_RTF)
+{
+    if (const std::string Name = Neben_Dem_Dokument(".not"); Vorhanden(Name))
+        return Name;
+    const std::string Name = Neben_Dem_Dokument(".rtf");
+    return Mit_RTF && Vorhanden(Name) ? Name : std::string{};
+}
+
+} // namespace
+
+void Notiz_Laden(bool Mit_RTF)
+{
+    Notiz_Datei            = {};
+    const std::string Name = Notiz_Datei_Suchen(Mit_RTF);
+    if (!Name.empty() && Name != Datei_Name)
+        if (auto Bytes = Ganze_Datei_Lesen(Name, Textdatei_Hoechstens))
+            Notiz_Datei = Text_Entschluesseln(std::move(*Bytes));
+    Plattform.Notiz->Text_Setzen(Notiz_Datei.Text);
+}
+
+void Notiz_Speichern()
+{
+    const std::string Text = Plattform.Notiz->Text();
+    const std::string Name = Neben_Dem_Dokument(".not");
+    if (Text.empty() || Name == Datei_Name) // a document of that very name is not to be lost
+        return;
+    Textdatei_Speichern(Name, Text, Notiz_Datei);
+}
+
+} // namespace varnholt

@@ -1,0 +1,100 @@
+// Saving: contents, notes, bookkeeping. The formats stand in files of their own.
+#include "files/Speichern.h"
+
+#include "core/commands.h"
+#include "core/messages.h"
+#include "core/shared_state.h"
+#include "files/Dat.h"
+#include "files/Datei_Zustand.h"
+#include "files/Dateimeldungen.h"
+#include "files/Dateinamen.h"
+#include "files/Intel_Hex.h"
+#include "files/Motorola_S.h"
+#include "files/Notizen.h"
+#include "files/Rohdaten.h"
+
+#include <filesystem>
+#include <span>
+
+namespace varnholt {
+namespace {
+
+std::span<const std::uint8_t> Eigentliches_Bild()
+{
+    return std::span(Hex_Daten).first(static_cast<std::size_t>(Bild_Groesse));
+}
+
+void Quelle_Speichern()
+{
+    if (Textdatei_Speichern(Datei_Name, Plattform.Edit->Text(), Quell_Datei))
+        Plattform.Ereignisse->Titel(2, "MC-Editor " + Datei_Name);
+}
+
+void Intel_Hex_Sichern(std::span<const std::uint8_t> Benutzt)
+{
+    if (Benutzt.size() <= Intel_Hex_Hoechstens) {
+        Datei_Sichern(Datei_Name, Intel_Hex_Schreiben(Benutzt));
+        return;
+    }
+    Melden(
+        {"Intel Hex Dateien können maximal 32768 Byte aufnehmen, Ihre Datei kann daher nicht als "
+         "Intel Hex Datei gesichert werden!",
+         "Intel-Hex Files can't be larger than 32768 Byte !"});
+    Datei_Fehler = Dateifehler::Abgelehnt;
+}
+
+void Nach_Typ_Speichern(std::span<const std::uint8_t> Benutzt)
+{
+    switch (Typ_Beim_Speichern(Datei_Name)) {
+    case Dateityp::Quelltext:
+    case Dateityp::Rohdaten:
+        Datei_Sichern(Datei_Name, Rohdaten_Schreiben(Benutzt));
+        break;
+    case Dateityp::Dat:
+        Datei_Sichern(Datei_Name, Dat_Schreiben(Benutzt));
+        break;
+    case Dateityp::Intel_Hex:
+        Intel_Hex_Sichern(Benutzt);
+        break;
+    case Dateityp::Motorola_S:
+        Datei_Sichern(Datei_Name, Motorola_S_Schreiben(Eigentliches_Bild()));
+        break;
+    }
+}
+
+void Bild_Speichern()
+{
+    Nach_Typ_Speichern(Benutzter_Teil(Eigentliches_Bild()));
+    if (Datei_Fehler == Dateifehler::Keiner && !Vergleich_Laeuft)
+        Plattform.Ereignisse->Titel(1, "Hex-Editor " + Datei_Name);
+}
+
+void Speichern_Verbuchen()
+{
+    if (!Dialog_Name.empty())
+        Dialog_Verzeichnis = std::filesystem::path(Dialog_Name).parent_path().string();
+    Letzte_Dateien();
+    Datei_Geaendert = false;
+    Plattform.Status->Schliessen();
+    if (Modus == Modus_MC)
+        Plattform.Edit->Fokus();
+}
+
+} // namespace
+
+void Datei_Speichern()
+{
+    Plattform.Ereignisse->Mauszeiger_Warten(true);
+    Datei_Fehler = Dateifehler::Keiner;
+    if (Modus == Modus_MC)
+        Quelle_Speichern();
+    else
+        Bild_Speichern();
+    if (Datei_Fehler == Dateifehler::Keiner)
+        Notiz_Speichern();
+    if (Datei_Fehler == Dateifehler::Keiner)
+        Speichern_Verbuchen();
+    Plattform.Ereignisse->Mauszeiger_Warten(false);
+}
+
+} // namespace varnholt

@@ -1,0 +1,216 @@
+// Encodings and line ends of source texts. The bytes of the loaded file stay the measure of saving:
+// a line that is written anew gets the file's encoding and usual line end, any other its old bytes.
+#include "files/Textdatei.h"
+
+#include "core/codepage.h"
+#include "core/shared_state.h"
+#include "files/Zeilenabgleich.h"
+#include "files/Zeilenleser.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+namespace varnholt {
+namespace {
+
+constexpr std::string_view BOM = "\xEF\xBB\xBF"; // byte order mark of UTF-8
+
+// How often each line end stands in a text.
+struct Enden_T {
+    std::size_t CR_LF = 0, LF = 0, CR = 0;
+};
+
+bool Nur_ASCII(std::string_view Bytes)
+{
+    unsigned char Alle = 0;
+    for (const char c : Bytes)
+        Alle = static_cast<unsigned char>(Alle | static_cast<unsigned char>(c));
+    return Alle < 0x80;
+}
+
+Kodierung Zeichensatz_Erkennen(std::string_view Bytes)
+{
+    if (Nur_ASCII(Bytes))
+        return Kodierung::UTF8;
+    if (!Ist_UTF8(Bytes))
+        return Kodierung::Windows_1252;
+    return Bytes.starts_with(BOM) ? Kodierung::UTF8_mit_BOM : Kodierung::UTF8;
+}
+
+std::string_view Ohne_BOM(std::string_view Bytes, Kodierung Zeichensatz)
+{
+    return Zeichensatz == Kodierung::UTF8_mit_BOM ? Bytes.substr(BOM.size()) : Bytes;
+}
+
+std::string In_1252(std::string_view Bytes, Kodierung Zeichensatz)
+{
+    const bool Gleich = Zeichensatz == Kodierung::Windows_1252 || Nur_ASCII(Bytes);
+    return Gleich ? std::string(Bytes) : Aus_UTF8(Bytes);
+}
+
+std::string Aus_1252(std::string_view Text, Kodierung Zeichensatz)
+{
+    return Zeichensatz == Kodierung::Windows_1252 ? std::string(Text) : Nach_UTF8(Text);
+}
+
+Enden_T Enden_Zaehlen(std::string_view t)
+{
+    const auto  CR = static_cast<std::size_t>(std::count(t.begin(), t.end(), '\r'));
+    const auto  LF = static_cast<std::size_t>(std::count(t.begin(), t.end(), '\n'));
+    std::size_t CR_LF = 0;
+    for (std::size_t i = t.find('\r'); CR > 0 && i < t.size(); i = t.find('\r', i + 1))
+        CR_LF += i + 1 < t.size() && t[i + 1] == '\n';
+    return {CR_LF, LF - CR_LF, CR - CR_LF};
+}
+
+Zeilenende Haeufigstes(const Enden_T& Zahl)
+{
+    if (Zahl.CR_LF >= Zahl.LF && Zahl.CR_LF >= Zahl.CR)
+        return Zeilenende::CR_LF;
+    return Zahl.LF >= Zahl.CR ? Zeilenende::LF : Zeilenende::CR;
+}
+
+std::string_view Zeichen_Des_Endes(Zeilenende Ende)
+{
+    switch (Ende) {
+    case Zeilenende::LF:
+        return "\n";
+    case Zeilenende::CR:
+        return "\r";
+    case Zeilenende::CR_LF:
+        break;
+    }
+    return CRLF;
+}
+
+std::string Mit_CRLF(std::string Text, const Enden_T& Zahl)
+{
+    if (Zahl.LF == 0 && Zahl.CR == 0)
+        return Text;
+    std::string Ziel;
+    Ziel.reserve(Text.size() + Zahl.LF + Zahl.CR);
+    Zeilenleser Leser(Text);
+    for (Textzeile_T Zeile; Leser.Weiter(Zeile);) {
+        Ziel += Zeile.Inhalt;
+        if (!Zeile.Ende.empty())
+            Ziel += CRLF;
+    }
+    return Ziel;
+}
+
+std::vector<Textzeile_T> In_Zeilen(std::string_view t)
+{
+    std::vector<Textzeile_T> Zeilen;
+    Zeilenleser              Leser(t);
+    for (Textzeile_T Zeile; Leser.Weiter(Zeile);)
+        Zeilen.push_back(Zeile);
+    return Zeilen;
+}
+
+std::vector<std::string_view> Inhalte(const std::vector<Textzeile_T>& Zeilen)
+{
+    std::vector<std::string_view> Ergebnis;
+    Ergebnis.reserve(Zeilen.size());
+    for (const Textzeile_T& z : Zeilen)
+        Ergebnis.push_back(z.Inhalt);
+    return Ergebnis;
+}
+
+// An LF behind the CR of the line before would make one line end of two: such a line gets CR LF.
+void Zeile_Anhaengen(std::string& Ziel, std::string_view Inhalt, std::string_view Ende)
+{
+    const bool Verschmilzt = Inhalt.empty() && Ende == "\n" && Ziel.ends_with('\r');
+    Ziel += Inhalt;
+    Ziel += Verschmilzt ? CRLF : Ende;
+}
+
+// The bytes of an edited text, without a byte order mark.
+std::string Geaenderte_Bytes(std::string_view Text, const Textdatei_T& Vorlage)
+{
+    const std::string_view         Original = Ohne_BOM(Vorlage.Original, Vorlage.Zeichensatz);
+    const std::vector<Textzeile_T> Bytes    = In_Zeilen(Original);
+    const std::vector<Textzeile_T> Neu      = In_Zeilen(Text);
+    const auto Alt_Von = Zeilen_Zuordnen(Inhalte(In_Zeilen(Vorlage.Text)), Inhalte(Neu));
+    const std::string_view Neues_Ende = Zeichen_Des_Endes(Vorlage.Ende);
+
+    std::string Ziel;
+    Ziel.reserve(Text.size() + Text.size() / 8);
+    for (std::size_t i = 0; i < Neu.size(); ++i) {
+        const bool             Bekannt = Alt_Von[i] < Bytes.size();
+        const Textzeile_T      Alt     = Bekannt ? Bytes[Alt_Von[i]] : Textzeile_T{};
+        const std::string_view Ende    = Alt.Ende.empty() ? Neues_Ende : Alt.Ende;
+        Zeile_Anhaengen(Ziel,
+                        Bekannt ? std::string(Alt.Inhalt)
+                                : Aus_1252(Neu[i].Inhalt, Vorlage.Zeichensatz),
+                        Neu[i].Ende.empty() ? std::string_view{} : Ende);
+    }
+    return Ziel;
+}
+
+const char* Umgebung(const char* Name)
+{
+    const char* Wert = std::getenv(Name);
+    return Wert != nullptr && *Wert != 0 ? Wert : nullptr;
+}
+
+} // namespace
+
+Textdatei_T Text_Entschluesseln(std::string Bytes)
+{
+    Textdatei_T Datei;
+    Datei.Zeichensatz             = Zeichensatz_Erkennen(Bytes);
+    const std::string_view Inhalt = Ohne_BOM(Bytes, Datei.Zeichensatz);
+    const Enden_T          Zahl   = Enden_Zaehlen(Inhalt);
+    Datei.Ende                    = Haeufigstes(Zahl);
+    Datei.Text                    = Mit_CRLF(In_1252(Inhalt, Datei.Zeichensatz), Zahl);
+    Datei.Original                = std::move(Bytes);
+    return Datei;
+}
+
+std::string Text_Verschluesseln(std::string_view Text, const Textdatei_T& Vorlage)
+{
+    if (Text == Vorlage.Text && !Vorlage.Original.empty())
+        return Vorlage.Original;
+    std::string Bytes = Geaenderte_Bytes(Text, Vorlage);
+    if (Vorlage.Zeichensatz == Kodierung::Windows_1252)
+        // What happens to be UTF-8 would be read as such: then it is better UTF-8 of the right
+        // text.
+        return Nur_ASCII(Bytes) || !Ist_UTF8(Bytes) ? Bytes : Nach_UTF8(Bytes);
+    // A character of the number of the mark at the beginning is kept apart from it by a real mark.
+    if (Vorlage.Zeichensatz == Kodierung::UTF8_mit_BOM || Bytes.starts_with(BOM))
+        Bytes.insert(0, BOM);
+    return Bytes;
+}
+
+Textdatei_T Gespeicherte_Textdatei(std::string Bytes, const Textdatei_T& Vorlage)
+{
+    Textdatei_T Datei = Text_Entschluesseln(std::move(Bytes));
+    if (Nur_ASCII(Datei.Original))
+        Datei.Zeichensatz = Vorlage.Zeichensatz;
+    if (Datei.Text.find('\n') == std::string::npos)
+        Datei.Ende = Vorlage.Ende;
+    return Datei;
+}
+
+Kodierung Kodierung_Nach_Locale(std::string_view Locale)
+{
+    const std::string Name = Gross(Locale);
+    const bool        UTF8 =
+        Name.find("UTF-8") != std::string::npos || Name.find("UTF8") != std::string::npos;
+    return UTF8 ? Kodierung::UTF8 : Kodierung::Windows_1252;
+}
+
+Textdatei_T Neue_Textdatei()
+{
+    Textdatei_T Datei;
+    for (const char* Name : {"LC_ALL", "LC_CTYPE", "LANG"})
+        if (const char* Wert = Umgebung(Name)) {
+            Datei.Zeichensatz = Kodierung_Nach_Locale(Wert);
+            return Datei;
+        }
+    Datei.Zeichensatz = Kodierung::Windows_1252; // the locale "C"
+    return Datei;
+}
+
+} // namespace varnholt

@@ -1,0 +1,41 @@
+// Source texts as files: encoding and line ends are noted on loading and used again on saving, so
+// that a file loaded and saved unchanged is the same to the byte.
+#pragma once
+
+#include "files/Dateizugriff.h"
+
+#include <string>
+#include <string_view>
+
+namespace varnholt {
+
+enum class Kodierung { Windows_1252, UTF8, UTF8_mit_BOM };
+enum class Zeilenende { CR_LF, LF, CR };
+
+// A loaded source text.
+struct Textdatei_T {
+    std::string Text{};     // Windows-1252, every line ended by CR LF as far as the file ends it
+    std::string Original{}; // the bytes of the file as they were; empty for a new text
+    Kodierung   Zeichensatz = Kodierung::UTF8;
+    Zeilenende  Ende        = Zeilenende::CR_LF; // the one that most lines have
+};
+
+// The text of a file's bytes: UTF-8 with or without a byte order mark (pure ASCII is UTF-8),
+// anything else Windows-1252. CR LF, LF and CR end a line, also mixed. A character outside
+// Windows-1252 is `?`.
+Textdatei_T Text_Entschluesseln(std::string Bytes);
+// The bytes for Text (Windows-1252): the original bytes for an unchanged text; lines that stand
+// unchanged keep their original bytes, so that characters outside Windows-1252 survive. The bytes
+// always read back as Text.
+std::string Text_Verschluesseln(std::string_view Text, const Textdatei_T& Vorlage);
+// The file that these bytes, written for Vorlage, have become. Encoding and line ends stay where
+// the bytes don't show them, so that a later save uses them again.
+Textdatei_T Gespeicherte_Textdatei(std::string Bytes, const Textdatei_T& Vorlage);
+
+// How a new file is written: UTF-8 where the locale of that name (`de_DE.UTF-8`) is, else
+// Windows-1252.
+Kodierung Kodierung_Nach_Locale(std::string_view Locale);
+// The template of a new file: the encoding of the user's locale (environment), lines end in CR LF.
+Textdatei_T Neue_Textdatei();
+
+} // namespace varnholt

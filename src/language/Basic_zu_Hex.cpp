@@ -1,0 +1,345 @@
+// The structured layer. Every statement is a row of bytes; the sizes matter, since the jumps over a
+// body are patched when its end is reached.
+#include "language/Basic_zu_Hex.h"
+
+#include "core/codepage.h"
+#include "core/settings.h"
+#include "core/shared_state.h"
+#include "language/Assembler_Zustand.h"
+#include "language/Befehle.h"
+#include "language/HexDez.h"
+#include "language/Marken.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace varnholt {
+namespace {
+
+// Bytes as text, with holes: v constant, d and e direct addresses, b bit address, +n the register
+// number added, hi lo the target of the jump over the block, r the skip over the tail.
+struct IF_Form {
+    std::string_view Form;  // n stands for a register number 0 to 7
+    int              Werte; // values on the line; -1 any number
+    std::string_view Block;
+    std::string_view Einzeilig;
+    int              Zusatz; // bytes that the skip passes beyond the tail
+};
+
+// clang-format off
+constexpr IF_Form IF_Formen[] = {
+    {"IFA=#THEN",   1, "B4 v 02 80 03 02 hi lo",                    "B4 v r", 0},
+    {"IFA<>#THEN",  1, "B4 v 03 02 hi lo",                          "B4 v 02 80 r", 0},
+    {"IFA>#THEN",   1, "C0 E0 C3 94 v+1 D0 E0 50 03 02 hi lo",      "C0 E0 C3 94 v+1 D0 E0 40 r", 0},
+    {"IFA<#THEN",   1, "C0 E0 C3 94 v D0 E0 40 03 02 hi lo",        "C0 E0 C3 94 v D0 E0 50 r", 0},
+    {"IFA=THEN",    1, "B5 d 02 80 03 02 hi lo",                    "B5 d r", 0},
+    {"IFA<>THEN",   1, "B5 d 03 02 hi lo",                          "B5 d 02 80 r", 0},
+    {"IFA<THEN",    1, "C0 E0 C3 95 d D0 E0 40 03 02 hi lo",        "C0 E0 C3 95 d D0 E0 50 r", 0},
+    {"IFA>THEN",    1, "C0 E0 D3 95 d D0 E0 50 03 02 hi lo",        "C0 E0 D3 95 d D0 E0 40 r", 0},
+    {"IFRn=#THEN",  1, "B8+n v 02 80 03 02 hi lo",                  "B8+n v r", 0},
+    {"IFRn<>#THEN", 1, "B8+n v 03 02 hi lo",                        "B8+n v 02 80 r", 0},
+    {"IFRn<#THEN",  1, "C0 E0 C3 E8+n 94 v D0 E0 40 03 02 hi lo",   "C0 E0 C3 E8+n 94 v D0 E0 50 r", 0},
+    {"IFRn>#THEN",  1, "C0 E0 C3 E8+n 94 v+1 D0 E0 50 03 02 hi lo", "C0 E0 C3 E8+n 94 v+1 D0 E0 40 r", 0},
+    {"IFRn=THEN",   1, "C0 E0 E8+n B5 d 04 D0 E0 80 05 D0 E0 02 hi lo", "C0 E0 E8+n B5 d 04 D0 E0 80 04 D0 E0 80 r", 0},
+    {"IFRn<>THEN",  1, "C0 E0 E8+n B5 d 05 D0 E0 02 hi lo D0 E0",   "C0 E0 E8+n B5 d 04 D0 E0 80 r D0 E0", 2},
+    {"IFRn>THEN",   1, "C0 E0 E8+n D3 95 d D0 E0 50 03 02 hi lo",   "C0 E0 E8+n D3 95 d D0 E0 40 r", 0},
+    {"IFRn<THEN",   1, "C0 E0 E8+n C3 95 d D0 E0 40 03 02 hi lo",   "C0 E0 E8+n C3 95 d D0 E0 50 r", 0},
+    {"IF=#THEN",    2, "C0 E0 E5 d B4 v 04 D0 E0 80 05 D0 E0 02 hi lo", "C0 E0 E5 d B4 v 04 D0 E0 80 04 D0 E0 80 r", 0},
+    {"IF<>#THEN",   2, "C0 E0 E5 d B4 v 05 D0 E0 02 hi lo D0 E0",   "C0 E0 E5 d B4 v 04 D0 E0 80 r D0 E0", 2},
+    {"IF<#THEN",    2, "C0 E0 E5 d C3 94 v D0 E0 40 03 02 hi lo",   "C0 E0 E5 d C3 94 v D0 E0 50 r", 0},
+    {"IF>#THEN",    2, "C0 E0 E5 d C3 94 v+1 D0 E0 50 03 02 hi lo", "C0 E0 E5 d C3 94 v+1 D0 E0 40 r", 0},
+    {"IF=THEN",     2, "C0 E0 E5 d B5 e 04 D0 E0 80 05 D0 E0 02 hi lo", "C0 E0 E5 d B5 e 04 D0 E0 80 04 D0 E0 80 r", 0},
+    {"IF<>THEN",    2, "C0 E0 E5 d B5 e 05 D0 E0 02 hi lo D0 E0",   "C0 E0 E5 d B5 e 04 D0 E0 80 r D0 E0", 2},
+    {"IF<THEN",     2, "C0 E0 E5 d C3 95 e D0 E0 40 03 02 hi lo",   "C0 E0 E5 d C3 95 e D0 E0 50 r", 0},
+    {"IF>THEN",     2, "C0 E0 E5 d D3 95 e D0 E0 50 03 02 hi lo",   "C0 E0 E5 d D3 95 e D0 E0 40 r", 0},
+    {"IFBITTHEN",     -1, "30 b 02 80 03 02 hi lo",                 "30 b r", 0},
+    {"IFNOTBITTHEN",  -1, "20 b 02 80 03 02 hi lo",                 "20 b r", 0},
+    {"IFBITCTHEN",    -1, "50 02 80 03 02 hi lo",                   "50 r", 0},
+    {"IFNOTBITCTHEN", -1, "40 02 80 03 02 hi lo",                   "40 r", 0},
+};
+
+// End of a loop: w end value, d direct address of the counter, hi lo the loop's first instruction.
+constexpr std::string_view NEXT_Formen[] = {
+    "B4 w 03 04 80 04 04 02 hi lo",                                             // accumulator
+    "B8+n w 03 08+n 80 04 08+n 02 hi lo",                                       // register
+    "C0 E0 E5 d B4 w 06 D0 E0 05 d 80 07 D0 E0 05 d 02 hi lo",                  // direct address
+};
+
+struct Zuweisung {
+    std::string_view Form;
+    std::string_view Wird;
+};
+constexpr Zuweisung Zuweisungen[] = {
+    {"=#", "MOV,#"}, {"=A", "MOV,A"}, {"A=", "MOVA,"}, {"A=#", "MOVA,#"},
+};
+// clang-format on
+
+bool Beginnt(std::string_view Anfang) { return Lauf.Zeile_Gross.starts_with(Anfang); }
+
+// What the holes of a byte row stand for.
+struct Luecken {
+    std::int32_t v = 0, d = 0, e = 0, b = 0, w = 0;
+    int          n    = 0;
+    std::int32_t Ziel = -1; // of hi lo; -1: they stay open
+};
+
+// One byte of a row; -1: stays open.
+std::int32_t Byte_Des_Stuecks(std::string_view Stueck, const Luecken& l)
+{
+    if (Stueck == "v+1")
+        return l.v + 1;
+    if (Stueck.ends_with("+n"))
+        return Hex_zu_Wert(Stueck.substr(0, 2)) + l.n;
+    if (Stueck == "hi")
+        return l.Ziel < 0 ? -1 : l.Ziel / 256;
+    if (Stueck == "lo")
+        return l.Ziel < 0 ? -1 : l.Ziel % 256;
+    switch (Stueck.size() == 1 ? Stueck.front() : ' ') {
+    case 'v': return l.v;
+    case 'd': return l.d;
+    case 'e': return l.e;
+    case 'b': return l.b;
+    case 'w': return l.w;
+    case 'r': return -1;
+    default: return Hex_zu_Wert(Stueck);
+    }
+}
+
+// Places a row and moves the address; the result is the offset of its hole hi or r, -1 without one.
+int Reihe_Setzen(std::string_view Reihe, const Luecken& l)
+{
+    int Offene = -1;
+    int k      = 0;
+    for (; !Reihe.empty(); ++k) {
+        const std::size_t      Ende   = std::min(Reihe.find(' '), Reihe.size());
+        const std::string_view Stueck = Reihe.substr(0, Ende);
+        if (Stueck == "hi" || Stueck == "r")
+            Offene = k;
+        if (const std::int32_t Wert = Byte_Des_Stuecks(Stueck, l); Wert >= 0)
+            Byte_Setzen(Adress_Zaehler + k, Wert);
+        Reihe.remove_prefix(std::min(Ende + 1, Reihe.size()));
+    }
+    Adress_Zaehler += k;
+    return Offene;
+}
+
+// Machine instructions between two addresses, by the lengths of the bytes that stand there.
+int Befehle_Zaehlen(std::int32_t Von, std::int32_t Bis)
+{
+    int n = 0;
+    for (std::int32_t a = Von; a < Bis && a <= Bild_Groesse; ++n)
+        a += Befehl_Laenge(Hex_Daten[static_cast<std::size_t>(a)]);
+    return n;
+}
+
+// Register number of a form whose n stands at the same place; -1 when the form isn't the beginning.
+int Form_Passt(std::string_view Form)
+{
+    if (Lauf.Zeile_Gross.size() < Form.size())
+        return -1;
+    int n = 0;
+    for (std::size_t i = 0; i < Form.size(); ++i) {
+        const char c = Lauf.Zeile_Gross[i];
+        if (Form[i] == 'n' && c >= '0' && c <= '7')
+            n = c - '0';
+        else if (c != Form[i])
+            return -1;
+    }
+    return n;
+}
+
+Basic_Ergebnis Fehler_Marke(std::string_view Marke)
+{
+    Lauf.Zeile_Gross = Marke;
+    return Basic_Ergebnis::Fehler;
+}
+
+void Bytes_Pruefen(int Anzahl)
+{
+    for (int n = 1; n <= Anzahl; ++n)
+        if (Wert_Nr(n) < 0 || Wert_Nr(n) > 0xFF)
+            Meldung_Byte_Bereich();
+}
+
+void IF_Oeffnen(std::int32_t Offene_Adresse)
+{
+    if (IF_Tiefe >= Tiefe_Hoechstens)
+        Fehler("Es sind höchstens 100 verschachtelte IF möglich !",
+               "No more than 100 nested IF are possible !");
+    IF_Stapel[static_cast<std::size_t>(++IF_Tiefe)] = Offene_Adresse;
+}
+
+// The tail statement stays in the row, which runs again with it alone.
+void Rest_Wiederholen(std::int32_t Kopf_Bytes)
+{
+    Quell_Zeile& Zeile = Diese_Zeile();
+    Gross_Am_Ort(Zeile.Text);
+    Zeile.Text.Vorn_Abnehmen(Zeile.Text.Ansicht().find("THEN") + 4);
+    if (Zeile.Text.Ansicht().starts_with(' '))
+        Zeile.Text.Vorn_Abnehmen(1);
+    Zeile.Versatz = Kopf_Bytes;
+    --Zeilen_Index;
+}
+
+Basic_Ergebnis IF_Setzen(const IF_Form& f, int n)
+{
+    const bool         Zwei = f.Werte == 2;
+    const std::int32_t v    = Zwei ? Wert_Nr(2) : Wert_Nr(1);
+    if (f.Form.find(">#") != std::string_view::npos && f.Form.find("<>") == std::string_view::npos && v == 255)
+        return Fehler_Marke("ERR5");
+    if (f.Form.find("<#") != std::string_view::npos && v == 0)
+        return Fehler_Marke("ERR6");
+    if (Inline_IF)
+        Fehler("Ein IF ist als Anweisung hinter THEN nicht möglich !",
+               "An IF is not possible as instruction behind THEN !");
+    const bool         Block  = Lauf.Zeile_Gross.size() == f.Form.size();
+    const std::int32_t Anfang = Adress_Zaehler;
+    const int Offene = Reihe_Setzen(Block ? f.Block : f.Einzeilig, {v, Wert_Nr(1), v, Wert_Nr(1), 0, n, -1});
+    Befehl_Zaehler += Befehle_Zaehlen(Anfang, Adress_Zaehler);
+    IF_Oeffnen(Anfang + Offene);
+    if (!Block) {
+        Inline_IF     = true;
+        Inline_Zusatz = f.Zusatz;
+        Rest_Wiederholen(Adress_Zaehler - Anfang);
+    }
+    return Basic_Ergebnis::Fertig;
+}
+
+Basic_Ergebnis IF_Uebersetzen()
+{
+    if (Wert_Anzahl == 1 || Wert_Anzahl == 2)
+        Bytes_Pruefen(Wert_Anzahl);
+    for (const IF_Form& f : IF_Formen)
+        if (f.Werte == -1 || f.Werte == Wert_Anzahl)
+            if (const int n = Form_Passt(f.Form); n >= 0)
+                return IF_Setzen(f, n);
+    return Basic_Ergebnis::Keines;
+}
+
+Basic_Ergebnis ELSE_Uebersetzen()
+{
+    Byte_Setzen(Adress_Zaehler, 0x02);
+    Adress_Zaehler += 3;
+    std::int32_t& Oben = IF_Stapel[static_cast<std::size_t>(IF_Tiefe)];
+    Sprungziel_Setzen(Oben, Adress_Zaehler);
+    Oben = Adress_Zaehler - 2;
+    return Basic_Ergebnis::Fertig;
+}
+
+Basic_Ergebnis END_IF_Uebersetzen()
+{
+    Sprungziel_Setzen(IF_Stapel[static_cast<std::size_t>(IF_Tiefe)], Adress_Zaehler);
+    return --IF_Tiefe < 0 ? Fehler_Marke("ERR4") : Basic_Ergebnis::Fertig;
+}
+
+Basic_Ergebnis FOR_Oeffnen(std::string_view Reihe, Struktur_T::Schleife_T::Art_T Art, int Ziel)
+{
+    const std::int32_t Von = Wert_Nr(Wert_Anzahl - 1);
+    const std::int32_t Bis = Wert_Nr(Wert_Anzahl);
+    if (Von > Bis)
+        return Fehler_Marke("ERR8");
+    if (FOR_Tiefe >= Tiefe_Hoechstens)
+        Fehler("Es sind höchstens 100 verschachtelte FOR möglich !",
+               "No more than 100 nested FOR are possible !");
+    Reihe_Setzen(Reihe, {Von, Ziel, 0, 0, 0, Ziel, -1});
+    FOR_Stapel[static_cast<std::size_t>(++FOR_Tiefe)] = {Adress_Zaehler, Bis, Art, Ziel};
+    ++Befehl_Zaehler;
+    return Basic_Ergebnis::Fertig;
+}
+
+Basic_Ergebnis FOR_Uebersetzen()
+{
+    using Schleife = Struktur_T::Schleife_T;
+    if (Wert_Anzahl == 2 || Wert_Anzahl == 3)
+        Bytes_Pruefen(Wert_Anzahl);
+    const std::string_view Form = Lauf.Zeile_Gross;
+    if (Wert_Anzahl == 2 && Form == "FORA=#TO#")
+        return FOR_Oeffnen("74 v", Schleife::Akku, 0);
+    if (Wert_Anzahl == 2 && Form.size() == 10)
+        if (const int n = Form_Passt("FORRn=#TO#"); n >= 0)
+            return FOR_Oeffnen("78+n v", Schleife::Register, n);
+    if (Wert_Anzahl == 3 && Form == "FOR=#TO#")
+        return FOR_Oeffnen("75 d v", Schleife::Direkt, Wert_Nr(1));
+    return Basic_Ergebnis::Keines;
+}
+
+Basic_Ergebnis NEXT_Uebersetzen()
+{
+    const auto& s = FOR_Stapel[static_cast<std::size_t>(FOR_Tiefe)];
+    Reihe_Setzen(NEXT_Formen[s.Art], {0, s.Ziel, 0, 0, s.Ende, s.Ziel, s.Adresse});
+    return --FOR_Tiefe < 0 ? Fehler_Marke("ERR9") : Basic_Ergebnis::Fertig;
+}
+
+// Rn=A and A=Rn.
+Basic_Ergebnis Register_Zuweisung()
+{
+    int n = Lauf.Zeile_Gross.size() == 4 ? Form_Passt("Rn=A") : -1;
+    int Opcode = 0xF8;
+    if (n < 0) {
+        n      = Lauf.Zeile_Gross.size() == 4 ? Form_Passt("A=Rn") : -1;
+        Opcode = 0xE8;
+    }
+    if (n < 0)
+        return Basic_Ergebnis::Keines;
+    Byte_Setzen(Adress_Zaehler, Opcode + n);
+    Befehls_Laenge = 1;
+    return Basic_Ergebnis::Byte;
+}
+
+// `Rn=#v` and `Rn=d`.
+void Register_Form_Umschreiben()
+{
+    std::string& Form = Lauf.Zeile_Gross;
+    const bool   Mit_Konstante = Form.size() == 4 && Form.back() == '#';
+    if ((Mit_Konstante || Form.size() == 3) && Form_Passt("Rn=") >= 0)
+        Form = "MOV" + Form.substr(0, 2) + (Mit_Konstante ? ",#" : ",");
+}
+
+// An assignment becomes the form of its MOV.
+Basic_Ergebnis Zuweisung_Uebersetzen()
+{
+    std::string& Form = Lauf.Zeile_Gross;
+    if (Form == "=" && Wert_Anzahl == 2) {
+        if (!O_MOV_ZQ)
+            std::swap(Wert_Nr(1), Wert_Nr(2));
+        Form = "MOV,";
+    } else if (Wert_Anzahl == 1) {
+        for (const Zuweisung& z : Zuweisungen)
+            if (Form == z.Form) {
+                Form = z.Wird;
+                return Basic_Ergebnis::Keines;
+            }
+        Register_Form_Umschreiben();
+    } else if (Wert_Anzahl == 0) {
+        return Register_Zuweisung();
+    }
+    return Basic_Ergebnis::Keines;
+}
+
+} // namespace
+
+Basic_Ergebnis Basic_Uebersetzen()
+{
+    Basic_Ergebnis Ergebnis = Basic_Ergebnis::Keines;
+    if (Beginnt("IF"))
+        Ergebnis = IF_Uebersetzen();
+    else if (Lauf.Zeile_Gross == "ELSE")
+        Ergebnis = ELSE_Uebersetzen();
+    else if (Lauf.Zeile_Gross == "ENDIF")
+        Ergebnis = END_IF_Uebersetzen();
+    else if (Beginnt("FOR"))
+        Ergebnis = FOR_Uebersetzen();
+    else if (Beginnt("NEXT"))
+        Ergebnis = NEXT_Uebersetzen();
+    return Ergebnis == Basic_Ergebnis::Keines ? Zuweisung_Uebersetzen() : Ergebnis;
+}
+
+void Inline_IF_Schliessen(int Laenge)
+{
+    Byte_Setzen(IF_Stapel[static_cast<std::size_t>(IF_Tiefe)], Laenge + Inline_Zusatz);
+    Inline_IF = false;
+    --IF_Tiefe;
+}
+
+} // namespace varnholt
