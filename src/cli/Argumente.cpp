@@ -18,8 +18,8 @@ constexpr std::uintmax_t Eingabe_Hoechstens = std::uintmax_t{64} << 20;
 
 void Eingabe_Sammeln(const fs::path& Ziel)
 {
-    std::ofstream Datei(Ziel, std::ios::binary);
-    char          Puffer[65536];
+    std::ofstream  Datei(Ziel, std::ios::binary);
+    char           Puffer[65536];
     std::uintmax_t Gesamt = 0;
     while (Gesamt <= Eingabe_Hoechstens) {
         const std::size_t n = std::fread(Puffer, 1, sizeof Puffer, stdin);

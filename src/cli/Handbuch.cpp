@@ -39,7 +39,8 @@ std::string Optionen_Liste(const CLI::App& App)
 {
     std::string Text;
     for (const CLI::Option* o : App.get_options())
-        Text += fmt::format(".TP\n.B {}\n{}\n", Troff(Option_Name(*o)), Troff(o->get_description()));
+        Text +=
+            fmt::format(".TP\n.B {}\n{}\n", Troff(Option_Name(*o)), Troff(o->get_description()));
     return Text;
 }
 
@@ -50,10 +51,13 @@ std::string Handbuch_Seite(const CLI::App& App)
     std::string Text = fmt::format(".TH VARNHOLT\\-CLI 1\n.SH NAME\nvarnholt\\-cli \\- {}\n"
                                    ".SH SYNOPSIS\n.B varnholt\\-cli\nCOMMAND [OPTIONS]\n"
                                    ".SH OPTIONS\n{}",
-                                   Troff(App.get_description()), Optionen_Liste(App));
+                                   Troff(App.get_description()),
+                                   Optionen_Liste(App));
     Text += ".SH COMMANDS\n";
     for (const CLI::App* k : App.get_subcommands([](const CLI::App*) { return true; }))
-        Text += fmt::format(".SS {}\n{}.\n{}", Troff(k->get_name()), Troff(k->get_description()),
+        Text += fmt::format(".SS {}\n{}.\n{}",
+                            Troff(k->get_name()),
+                            Troff(k->get_description()),
                             Optionen_Liste(*k));
     return Text + ".SH NOTES\n" + Troff(App.get_footer()) + "\n";
 }

@@ -23,10 +23,10 @@ struct Assemble_Optionen {
     std::vector<std::string> Ausgaben{};
     std::string              Liste{};
     std::string              Geraet{};
-    std::string              Zahlen    = "decimal";
-    std::string              Reihe     = "destination";
-    bool                     Debug     = false;
-    bool                     Mit_Json  = false;
+    std::string              Zahlen   = "decimal";
+    std::string              Reihe    = "destination";
+    bool                     Debug    = false;
+    bool                     Mit_Json = false;
 };
 
 using Json = nlohmann::ordered_json;
@@ -81,13 +81,13 @@ int Assemble(const Assemble_Optionen& o)
     Zahlendeutung       = o.Zahlen == "hexadecimal";
     O_MOV_ZQ            = o.Reihe == "destination";
     C_Erstelle_Listfile = !o.Liste.empty();
-    if (!Geraet_Waehlen(o.Geraet))
-        return Status_Falsch;
+    if (const int Status = Geraet_Waehlen(o.Geraet); Status != Status_Fertig)
+        return Status;
     if (const int Status = Quelle_Laden(o.Quelle); Status != Status_Fertig)
         return Status;
     const Strom_Datei Liste(o.Liste, Strom_Datei::Richtung::Ausgabe);
-    Listen_Name     = Liste.Pfad();
-    const bool Gut  = Quelle_Assemblieren(o.Quelle, o.Debug);
+    Listen_Name       = Liste.Pfad();
+    const bool Gut    = Quelle_Assemblieren(o.Quelle, o.Debug);
     int        Status = Gut ? Status_Der_Datei() : Status_Misslungen;
     if (Gut && Status == Status_Fertig)
         Status = Bild_Ausgeben(o.Ausgaben);
@@ -109,20 +109,23 @@ void Assemble_Anmelden(Kommandozeile& Zeile)
     k->add_option("SOURCE", o->Quelle, "Source text, UTF-8 or Windows-1252")
         ->required()
         ->type_name("");
-    k->add_option("-o", o->Ausgaben,
-                  "Write the image; the extension chooses the format: .bin ._51 .hex .ihx .mhx .dat "
-                  "(may be given again)")
+    k->add_option(
+         "-o",
+         o->Ausgaben,
+         "Write the image; the extension chooses the format: .bin ._51 .hex .ihx .mhx .dat "
+         "(may be given again)")
         ->type_name("FILE")
         ->allow_extra_args(false);
     k->add_option("--list", o->Liste, "Write the list file under that name")->type_name("FILE");
     k->add_flag("--debug", o->Debug, "Assemble as the debugger does: STOP and #IF DEBUGGING count");
     k->add_option("--numbers", o->Zahlen, "How numbers without a mark are read (default: decimal)")
         ->check(CLI::IsMember({"decimal", "hexadecimal"}));
-    k->add_option("--mov-order", o->Reihe,
-                  "What stands first in MOV direct,direct (default: destination)")
+    k->add_option(
+         "--mov-order", o->Reihe, "What stands first in MOV direct,direct (default: destination)")
         ->check(CLI::IsMember({"destination", "source"}));
     k->add_option("--device", o->Geraet, "Check the size against this device")->type_name("NAME");
-    k->add_flag("--json", o->Mit_Json,
+    k->add_flag("--json",
+                o->Mit_Json,
                 "Print code end, instruction count, labels and names as one JSON object");
 }
 

@@ -37,17 +37,17 @@ struct Geraete_Optionen {
 
 struct Program_Optionen : Geraete_Optionen {
     std::string Editor_Von{}, Editor_Bis{}, IC_Von{};
-    std::string Split          = "none";
-    bool        Null_Darunter  = false;
-    bool        Loeschen       = false;
-    bool        Mit_FF         = false;
+    std::string Split                = "none";
+    bool        Null_Darunter        = false;
+    bool        Loeschen             = false;
+    bool        Mit_FF               = false;
     bool        Ohne_Pruefung_Dabei  = false;
     bool        Ohne_Pruefung_Danach = false;
     bool        Ohne_Lesen           = false;
 };
 
 struct Check_Optionen : Geraete_Optionen {
-    std::string Split       = "none";
+    std::string Split        = "none";
     bool        Abweichungen = false;
 };
 
@@ -56,8 +56,8 @@ int Am_Port(const Geraete_Optionen& o, const std::function<int()>& Tun)
 {
     C_Brenner = !o.Ohne_Board_Test;
     C_IC      = !o.Ohne_IC_Test;
-    if (!Geraet_Waehlen(o.Geraet))
-        return Status_Falsch;
+    if (const int Status = Geraet_Waehlen(o.Geraet); Status != Status_Fertig)
+        return Status;
     Port_Wahl Port;
     if (const int Status = Port.Oeffnen(o.Port, o.Spur); Status != Status_Fertig)
         return Status;
@@ -76,7 +76,8 @@ int Read(const Geraete_Optionen& o)
             return Nicht_Bedient(o.Geraet);
         Modus = Modus_Hex;
         MNU_IC_Lesen_Click();
-        return Antwort == Antwort_Abbrechen ? int{Status_Misslungen} : Bild_Speichern_Unter(o.Datei);
+        return Antwort == Antwort_Abbrechen ? int{Status_Misslungen}
+                                            : Bild_Speichern_Unter(o.Datei);
     });
 }
 
@@ -110,8 +111,9 @@ bool Felder_Ausfuellen(const Program_Optionen& o)
     Splitting_Waehlen(Splitting_Von(o.Split));
     Brennmenue.DAT00   = o.Null_Darunter;
     Brennmenue.Löschen = o.Loeschen;
-    return Feld_Setzen(o.Editor_Von, ED_EBA_D_Change) && Feld_Setzen(o.Editor_Bis, ED_LBA_D_Change) &&
-           Feld_Setzen(o.IC_Von, BR_EBA_D_Change);
+    // The device's field first: a change of it alone doesn't look at the editor's range again.
+    return Feld_Setzen(o.IC_Von, BR_EBA_D_Change) && Feld_Setzen(o.Editor_Von, ED_EBA_D_Change) &&
+           Feld_Setzen(o.Editor_Bis, ED_LBA_D_Change);
 }
 
 // Why the button `Brennen` is off.
@@ -122,10 +124,13 @@ int Bereich_Ablehnen()
                                       "The image is empty, there is nothing to program."}));
         return Status_Misslungen;
     }
-    return Falsche_Zeile(fmt::format("the range doesn't fit: editor {} to {}, IC from {}, device up "
-                                     "to {}",
-                                     Brennmenue.ED_EBA_D, Brennmenue.ED_LBA_D, Brennmenue.BR_EBA_D,
-                                     Brennmenue.IC_GS_D));
+    return Falsche_Zeile(
+        fmt::format("the range doesn't fit: editor {} to {}, IC from {}, device up "
+                    "to {}",
+                    Brennmenue.ED_EBA_D,
+                    Brennmenue.ED_LBA_D,
+                    Brennmenue.BR_EBA_D,
+                    Brennmenue.IC_GS_D));
 }
 
 int Brennen(const Program_Optionen& o)
@@ -191,6 +196,7 @@ int Test(const Geraete_Optionen& o)
         const Test1_Ergebnis e = Test1_Durchfuehren();
         std::cout << In_Sprache(Test1_Titel(e)) << '\n';
         Auf_Fehlerausgabe(In_Sprache(Test1_Text(e)));
+        std::cout << e.Werte;
         if (e.Fehler == 0)
             return int{Status_Fertig};
         return int{Test1_Datei_Schreiben(e) ? Status_Misslungen : Status_Datei};
@@ -242,18 +248,21 @@ void Read_Anmelden(Kommandozeile& Zeile)
 void Program_Anmelden(Kommandozeile& Zeile)
 {
     auto      o = std::make_shared<Program_Optionen>();
-    CLI::App* k = Zeile.Kommando("program", "Program a device from a source or an image, and verify",
+    CLI::App* k = Zeile.Kommando("program",
+                                 "Program a device from a source or an image, and verify",
                                  [o] { return Program(*o); });
     Datei_Anmelden(k, *o);
     Geraet_Anmelden(k, *o);
     k->add_option("--editor-from", o->Editor_Von, "First address of the image (default: 0)")
         ->type_name("A");
-    k->add_option("--editor-to", o->Editor_Bis, "Last address of the image (default: last used one)")
+    k->add_option(
+         "--editor-to", o->Editor_Bis, "Last address of the image (default: last used one)")
         ->type_name("A");
     k->add_option("--ic-from", o->IC_Von, "First address in the device (default: 0)")
         ->type_name("A");
     Split_Anmelden(k, o->Split);
-    k->add_flag("--zero-below", o->Null_Darunter, "Program 00 below the first address in the device");
+    k->add_flag(
+        "--zero-below", o->Null_Darunter, "Program 00 below the first address in the device");
     k->add_flag("--erase", o->Loeschen, "Erase the device first (flash and EEPROM)");
     k->add_flag("--write-ff", o->Mit_FF, "Program FF bytes too, up to the device's end");
     k->add_flag("--no-verify-during", o->Ohne_Pruefung_Dabei, "Don't check each byte");
@@ -264,8 +273,8 @@ void Program_Anmelden(Kommandozeile& Zeile)
 void Check_Anmelden(Kommandozeile& Zeile)
 {
     auto      o = std::make_shared<Check_Optionen>();
-    CLI::App* k = Zeile.Kommando("check", "Compare a device with a source or an image",
-                                 [o] { return Check(*o); });
+    CLI::App* k = Zeile.Kommando(
+        "check", "Compare a device with a source or an image", [o] { return Check(*o); });
     Datei_Anmelden(k, *o);
     Geraet_Anmelden(k, *o);
     Split_Anmelden(k, o->Split);
@@ -275,7 +284,8 @@ void Check_Anmelden(Kommandozeile& Zeile)
 void Test_Anmelden(Kommandozeile& Zeile)
 {
     auto      o = std::make_shared<Geraete_Optionen>();
-    CLI::App* k = Zeile.Kommando("test", "Test the Eprommer board: all bytes through its data path",
+    CLI::App* k = Zeile.Kommando("test",
+                                 "Test the Eprommer board: all bytes through its data path",
                                  [o] { return Test(*o); });
     Port_Anmelden(k, *o);
 }

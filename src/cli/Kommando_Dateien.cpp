@@ -4,6 +4,7 @@
 #include "cli/Quelle.h"
 #include "core/shared_state.h"
 #include "files/Datei_Zustand.h"
+#include "files/Laden.h"
 #include "files/Speichern.h"
 
 #include <fmt/format.h>
@@ -48,8 +49,8 @@ int Convert(const Convert_Optionen& o, Konsolen_Box& Box)
         Eingaben.push_back(Datei_Mit_Adresse_Von(e));
     if (const int Status = Alle_Einlesen(Eingaben); Status != Status_Fertig)
         return Status;
-    if (!Geraet_Waehlen(o.Geraet))
-        return Status_Falsch;
+    if (const int Status = Geraet_Waehlen(o.Geraet); Status != Status_Fertig)
+        return Status;
     return Bild_Speichern_Unter(o.Ausgabe);
 }
 
@@ -58,8 +59,10 @@ int Compare(const std::vector<std::string>& Dateien)
     if (const int Status = Bild_Laden_Von(Dateien[0]); Status != Status_Fertig)
         return Status;
     const Strom_Datei Zweite(Dateien[1], Strom_Datei::Richtung::Eingabe);
-    Modus                  = Modus_Hex;
-    Dialog_Name            = Zweite.Pfad();
+    Modus       = Modus_Hex;
+    Dialog_Name = Zweite.Pfad();
+    if (!Datei_Gefunden())
+        return Status_Datei;
     const auto Unterschied = Hexdaten_Vergleichen();
     if (Unterschied)
         std::cout << fmt::format("{:X}h\n", *Unterschied);
@@ -74,7 +77,8 @@ void Convert_Anmelden(Kommandozeile& Zeile)
     CLI::App* k = Zeile.Kommando("convert",
                                  "Load an image, import further files into it, save it",
                                  [o, &Zeile] { return Convert(*o, Zeile.Konsole.Box); });
-    k->add_option("IN", o->Eingaben,
+    k->add_option("IN",
+                  o->Eingaben,
                   "Image files; each further one is imported at the address behind its name "
                   "(IN@ADDRESS), the first one too if it has one")
         ->required()
@@ -83,7 +87,8 @@ void Convert_Anmelden(Kommandozeile& Zeile)
         ->required()
         ->type_name("OUT");
     k->add_option("--device", o->Geraet, "Select this device after loading")->type_name("NAME");
-    k->add_option("--half", o->Haelfte,
+    k->add_option("--half",
+                  o->Haelfte,
                   "Which half of a binary file of more than 524288 bytes is loaded: 1 or 2")
         ->check(CLI::IsMember({1, 2}));
 }
@@ -91,8 +96,9 @@ void Convert_Anmelden(Kommandozeile& Zeile)
 void Compare_Anmelden(Kommandozeile& Zeile)
 {
     auto      Dateien = std::make_shared<std::vector<std::string>>();
-    CLI::App* k = Zeile.Kommando("compare", "Compare a file with the image of another",
-                                 [Dateien] { return Compare(*Dateien); });
+    CLI::App* k = Zeile.Kommando("compare", "Compare a file with the image of another", [Dateien] {
+        return Compare(*Dateien);
+    });
     k->add_option("FILE", *Dateien, "The two files")->required()->expected(2)->type_name("");
 }
 

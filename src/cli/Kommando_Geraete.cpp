@@ -58,17 +58,38 @@ Json Satz_Json(int Nummer)
 std::string Zeile_Von(int Nummer)
 {
     const Geraet_T& g = Satz(Nummer);
-    return fmt::format("{:>4}  {:<24} {:<14} {:>7}  {:<9} {:<8} {:<8} {:<8} {:>6} {:>7} {:>5}  {}\n",
-                       Nummer, Gruppe_Von(Nummer), g.Name, g.Bytes, g.R_Typ, g.P_Typ,
-                       g.E_Typ.empty() ? "-" : g.E_Typ, g.L_Typ.empty() ? "-" : g.L_Typ, g.R_Timing,
-                       g.P_Timing, g.Seiten_Bytes, Board_Name(g.Programmer));
+    return fmt::format(
+        "{:>4}  {:<24} {:<14} {:>7}  {:<9} {:<8} {:<8} {:<8} {:>6} {:>7} {:>5}  {}\n",
+        Nummer,
+        Gruppe_Von(Nummer),
+        g.Name,
+        g.Bytes,
+        g.R_Typ,
+        g.P_Typ,
+        g.E_Typ.empty() ? "-" : g.E_Typ,
+        g.L_Typ.empty() ? "-" : g.L_Typ,
+        g.R_Timing,
+        g.P_Timing,
+        g.Seiten_Bytes,
+        Board_Name(g.Programmer));
 }
 
 std::string Kopfzeile()
 {
-    return fmt::format("{:>4}  {:<24} {:<14} {:>7}  {:<9} {:<8} {:<8} {:<8} {:>6} {:>7} {:>5}  {}\n",
-                       "No.", "Group", "Name", "Bytes", "Read", "Program", "Erase", "Lock", "t R/us",
-                       "t P/us", "Page", "Board");
+    return fmt::format(
+        "{:>4}  {:<24} {:<14} {:>7}  {:<9} {:<8} {:<8} {:<8} {:>6} {:>7} {:>5}  {}\n",
+        "No.",
+        "Group",
+        "Name",
+        "Bytes",
+        "Read",
+        "Program",
+        "Erase",
+        "Lock",
+        "t R/us",
+        "t P/us",
+        "Page",
+        "Board");
 }
 
 void Alle_Ausgeben(bool Mit_Json)
@@ -94,13 +115,14 @@ void Eins_Ausgeben(int Nummer, bool Mit_Json)
         return;
     }
     for (const auto& [Name, Wert] : Werte.items())
-        std::cout << fmt::format("{:<15} {}\n", Name,
-                                 Wert.is_string() ? Wert.get<std::string>() : Wert.dump());
+        std::cout << fmt::format(
+            "{:<15} {}\n", Name, Wert.is_string() ? Wert.get<std::string>() : Wert.dump());
 }
 
 int Devices(const Devices_Optionen& o)
 {
-    Spec_Lesen();
+    if (const int Status = Geraete_Lesen(); Status != Status_Fertig)
+        return Status;
     if (o.Name.empty()) {
         Alle_Ausgeben(o.Mit_Json);
         return Status_Fertig;
@@ -117,8 +139,8 @@ int Devices(const Devices_Optionen& o)
 void Geraete_Anmelden(Kommandozeile& Zeile)
 {
     auto      o = std::make_shared<Devices_Optionen>();
-    CLI::App* k = Zeile.Kommando("devices", "List the device database, or one device of it",
-                                 [o] { return Devices(*o); });
+    CLI::App* k = Zeile.Kommando(
+        "devices", "List the device database, or one device of it", [o] { return Devices(*o); });
     k->add_option("NAME", o->Name, "A device's name, in any case")->type_name("");
     k->add_flag("--json", o->Mit_Json, "Print JSON");
 }

@@ -25,7 +25,8 @@ void Spaetere_Anmelden(Kommandozeile& Zeile)
 {
     for (const Spaeteres_Kommando& k : Spaetere) {
         const std::string Name = k.Name;
-        Zeile.Kommando(Name, k.Text, [Name] { return Falsche_Zeile(Name + ": not available yet"); })
+        Zeile
+            .Kommando(Name, k.Text, [Name] { return Falsche_Zeile(Name + ": not available yet"); })
             ->allow_extras();
     }
 }

@@ -42,8 +42,10 @@ int Status_Der_Datei();
 // Prints an error of the command line itself; the result is Status_Falsch.
 int Falsche_Zeile(const std::string& Text);
 
-// Reads the device database and selects a device by name. False, with the error printed, when there
-// is no such device or the board can't serve it. An empty name selects none.
-[[nodiscard]] bool Geraet_Waehlen(const std::string& Name);
+// Reads the device database; the result is a Status_T value, the error is printed.
+int Geraete_Lesen();
+// The same, and selects a device by name; Status_Falsch when there is no such device or the board
+// can't serve it. An empty name selects none and reads nothing.
+int Geraet_Waehlen(const std::string& Name);
 
 } // namespace varnholt

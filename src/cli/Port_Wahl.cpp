@@ -31,7 +31,7 @@ int Port_Wahl::Simuliert(const std::string& Datei)
     Plattform.Port = Board.get();
     if (Datei.empty() || IC_Nummer < 0)
         return Status_Fertig;
-    Sockel_Datei          = Datei;
+    Sockel_Datei           = Datei;
     const Text_Paar Fehler = Sockel_Laden(*Board, Sockel_Datei);
     if (Fehler.E.empty())
         return Status_Fertig;

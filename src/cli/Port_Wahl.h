@@ -21,8 +21,8 @@ public:
     Port_Wahl(const Port_Wahl&)            = delete;
     Port_Wahl& operator=(const Port_Wahl&) = delete;
 
-    // Opens PORT for the selected device and starts the port driver. The result is a Status_T value,
-    // the errors are printed.   reads: IC_Nummer   sets: Port_Basis, Porttreiber_OK
+    // Opens PORT for the selected device and starts the port driver. The result is a Status_T
+    // value, the errors are printed.   reads: IC_Nummer   sets: Port_Basis, Porttreiber_OK
     int Oeffnen(const std::string& Port, const std::string& Spur_Datei);
     // Keeps the device of `sim:FILE` in its file and ends the trace. The result is Status, or
     // Status_Datei when one of them can't be written.

@@ -26,7 +26,6 @@ int Laden(const std::string& Name, int Neuer_Modus)
     return Status_Der_Datei();
 }
 
-
 // Swallows the error box of an assembly, whose text is printed with its place in front.
 class Ohne_Fehlerbox : public Meldungsbox {
 public:
@@ -53,7 +52,9 @@ int Quelle_Laden(const std::string& Name)
 {
     if (Typ_Beim_Laden(Name, Modus_MC) != Dateityp::Quelltext)
         return Falsche_Zeile(Name + " is an image, not a source");
-    return Laden(Name, Modus_MC);
+    const int Status     = Laden(Name, Modus_MC);
+    Quell_Datei.Original = {}; // the source is never saved here
+    return Status;
 }
 
 bool Quelle_Assemblieren(const std::string& Name, bool Debug)

@@ -6,9 +6,12 @@
 #include "files/Datei_Zustand.h"
 #include "programmer/Specifications.h"
 
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
+#include <malloc.h>
+#include <unistd.h>
 #include <utility>
 
 #ifndef VARNHOLT_VERSION
@@ -45,12 +48,12 @@ void Anmelden(Kommandozeile& Zeile)
     App.set_help_all_flag("--help-all", "Help on the program and on every command");
     App.add_option("--language", Zeile.Sprach_Wahl, "Language of the texts: D or E (default: E)")
         ->check(CLI::IsMember({"D", "E"}));
-    App.add_option("--home", Zeile.Home, "Folder with Spec.ini, mc and include")
-        ->type_name("DIR");
-    App.footer("Exit status: 0 done; 1 the job failed (assembler error, files differ, device fault, "
-               "verify failed);\n2 the command line is wrong; 3 a file can't be read or written.\n"
-               "Numbers may be decimal, 0x1F or 1Fh; `-` is standard input or output where a file "
-               "is meant.");
+    App.add_option("--home", Zeile.Home, "Folder with Spec.ini, mc and include")->type_name("DIR");
+    App.footer(
+        "Exit status: 0 done; 1 the job failed (assembler error, files differ, device fault, "
+        "verify failed);\n2 the command line is wrong; 3 a file can't be read or written.\n"
+        "Numbers may be decimal, 0x1F or 1Fh; `-` is standard input or output where a file "
+        "is meant.");
     Assemble_Anmelden(Zeile);
     Dateien_Anmelden(Zeile);
     Geraete_Anmelden(Zeile);
@@ -71,14 +74,13 @@ int Ausfuehren(int argc, char** argv)
     } catch (const CLI::ParseError& Fehler) {
         return Zeile.App.exit(Fehler) == 0 ? Status_Fertig : Status_Falsch;
     }
-    return Zeile.Status;
+    return std::cout.flush() ? Zeile.Status : int{Status_Datei};
 }
 
 } // namespace
 
-CLI::App* Kommandozeile::Kommando(const std::string&   Name,
-                                  const std::string&   Text,
-                                  std::function<int()> Tut)
+CLI::App*
+Kommandozeile::Kommando(const std::string& Name, const std::string& Text, std::function<int()> Tut)
 {
     CLI::App* Unter = App.add_subcommand(Name, Text);
     Unter->fallthrough();
@@ -92,12 +94,15 @@ CLI::App* Kommandozeile::Kommando(const std::string&   Name,
 int Status_Der_Datei()
 {
     switch (Datei_Fehler) {
-    case Dateifehler::Keiner: return Status_Fertig;
+    case Dateifehler::Keiner:
+        return Status_Fertig;
     case Dateifehler::Nicht_Gefunden:
     case Dateifehler::Lesefehler:
-    case Dateifehler::Schreibfehler: return Status_Datei;
+    case Dateifehler::Schreibfehler:
+        return Status_Datei;
     case Dateifehler::Abgelehnt:
-    case Dateifehler::Teilladen_Offen: break;
+    case Dateifehler::Teilladen_Offen:
+        break;
     }
     return Status_Misslungen;
 }
@@ -108,24 +113,41 @@ int Falsche_Zeile(const std::string& Text)
     return Status_Falsch;
 }
 
-bool Geraet_Waehlen(const std::string& Name)
+int Geraete_Lesen()
+{
+    Spec_Lesen();
+    const std::string Datei = Programm_Pfad + "Spec.ini";
+    if (access(Datei.c_str(), R_OK) == 0)
+        return Status_Fertig;
+    if (Sprache == "E") // the message of a missing file exists in German only
+        Auf_Fehlerausgabe(Datei + ": the device database is missing or can't be read");
+    return Status_Datei;
+}
+
+int Geraet_Waehlen(const std::string& Name)
 {
     if (Name.empty())
-        return true;
-    Spec_Lesen();
+        return Status_Fertig;
+    if (const int Status = Geraete_Lesen(); Status != Status_Fertig)
+        return Status;
     const int Nummer = Geraet_Suchen(Name);
-    if (Nummer < 0) {
-        Falsche_Zeile("there is no device " + Name + " in Spec.ini");
-        return false;
-    }
+    if (Nummer < 0)
+        return Falsche_Zeile("there is no device " + Name + " in Spec.ini");
     IC_Waehlen(Nummer);
-    return std::exchange(Abbruch, false) == false;
+    return std::exchange(Abbruch, false) ? Status_Falsch : Status_Fertig;
 }
 
 } // namespace varnholt
 
 int main(int argc, char** argv)
 {
+    // A full disk and a closed pipe are failed writes, not the end of the program.
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
+    // Freed memory is used again instead of being given back: a run is short, and each fresh page
+    // costs as much as several source lines.
+    mallopt(M_MMAP_THRESHOLD, 1 << 30);
+    mallopt(M_TRIM_THRESHOLD, 1 << 30);
     try {
         return varnholt::Ausfuehren(argc, argv);
     } catch (const std::bad_alloc&) {

@@ -17,27 +17,15 @@ constexpr std::array<char32_t, 32> Unicode_ab_80 = {
 
 constexpr std::uint8_t Byte(char c) { return static_cast<std::uint8_t>(c); }
 
-constexpr std::array<char, 256> Gross_Tabelle = [] {
-    std::array<char, 256> t{};
-    for (int i = 0; i < 256; ++i) {
-        int g = i;
-        if ((i >= 'a' && i <= 'z') || (i >= 0xE0 && i <= 0xFE && i != 0xF7))
-            g = i - 32;
-        else if (i == 0x9A || i == 0x9C || i == 0x9E)
-            g = i - 16;
-        else if (i == 0xFF)
-            g = 0x9F;
-        t[static_cast<std::size_t>(i)] = static_cast<char>(static_cast<std::uint8_t>(g));
-    }
-    return t;
-}();
-
 // Length of the sequence that begins at i, 0 when it is malformed; its character in Zeichen.
 int Sequenz(std::string_view t, std::size_t i, char32_t& Zeichen)
 {
     const std::uint8_t b = Byte(t[i]);
-    const int          n = b < 0x80 ? 1 : b >= 0xC2 && b < 0xE0 ? 2 : b >= 0xE0 && b < 0xF0 ? 3
-                                    : b >= 0xF0 && b < 0xF5 ? 4 : 0;
+    const int          n = b < 0x80                ? 1
+                           : b >= 0xC2 && b < 0xE0 ? 2
+                           : b >= 0xE0 && b < 0xF0 ? 3
+                           : b >= 0xF0 && b < 0xF5 ? 4
+                                                   : 0;
     if (n == 0 || i + static_cast<std::size_t>(n) > t.size())
         return 0;
     Zeichen = n == 1 ? b : b & (0xFFu >> (n + 1));
@@ -79,8 +67,6 @@ void Anhaengen_UTF8(std::string& Ziel, char32_t z)
 
 } // namespace
 
-char Gross_Zeichen(char Zeichen) { return Gross_Tabelle[Byte(Zeichen)]; }
-
 void Gross_In(std::string_view Text, std::string& Ziel)
 {
     Ziel.resize(Text.size());
@@ -96,15 +82,9 @@ std::string Gross(std::string_view Text)
 
 bool Gleich_Ohne_Fall(std::string_view a, std::string_view b)
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return Gross_Zeichen(x) == Gross_Zeichen(y); });
-}
-
-bool Beginnt_Ohne_Fall(std::string_view Text, std::string_view Anfang_Gross)
-{
-    return Text.size() >= Anfang_Gross.size() &&
-           std::equal(Anfang_Gross.begin(), Anfang_Gross.end(), Text.begin(),
-                      [](char g, char t) { return g == Gross_Zeichen(t); });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+        return Gross_Zeichen(x) == Gross_Zeichen(y);
+    });
 }
 
 bool Ist_UTF8(std::string_view Text)

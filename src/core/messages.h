@@ -20,7 +20,9 @@ const std::string& In_Sprache(const Text_Paar& Text);
 // Shows a message box and keeps its result in `Antwort`. With a `Sprache` that is neither "D" nor
 // "E" no box appears and `Antwort` stays.
 // reads: Sprache   sets: Antwort
-void Melden(const Text_Paar& Text, const Text_Paar& Titel = {}, Knoepfe Tasten = Knoepfe::Ok,
-            Symbol Zeichen = Symbol::Hinweis);
+void Melden(const Text_Paar& Text,
+            const Text_Paar& Titel   = {},
+            Knoepfe          Tasten  = Knoepfe::Ok,
+            Symbol           Zeichen = Symbol::Hinweis);
 
 } // namespace varnholt

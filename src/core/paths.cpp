@@ -49,6 +49,25 @@ fs::path Benutzer_Ordner()
     return (Daten.empty() ? Umgebung("HOME") / ".local/share" : Daten) / "varnholt";
 }
 
+// The entry of a folder with that name; without one the first whose name differs only in case,
+// else the name as it stands.
+fs::path Eintrag_Ohne_Fall(const fs::path& Ordner, const fs::path& Name)
+{
+    std::error_code Fehler;
+    if (fs::exists(Ordner / Name, Fehler))
+        return Ordner / Name;
+    fs::path Treffer;
+    for (fs::directory_iterator i(Ordner.empty() ? "." : Ordner, Fehler), Ende;
+         !Fehler && i != Ende;
+         i.increment(Fehler)) {
+        const fs::path Gefunden = i->path().filename();
+        if (Gleich_Ohne_Fall(Aus_UTF8(Gefunden.string()), Aus_UTF8(Name.string())) &&
+            (Treffer.empty() || Gefunden < Treffer)) // the same choice whatever the folder's order
+            Treffer = Gefunden;
+    }
+    return Ordner / (Treffer.empty() ? Name : Treffer);
+}
+
 std::string Mit_Trenner(const fs::path& Ordner) { return (Ordner / "").string(); }
 
 } // namespace
@@ -63,20 +82,14 @@ fs::path Pfad_Aus_Text(std::string_view UTF8)
 std::optional<fs::path> Datei_Suchen(const fs::path& Ordner, std::string_view Name)
 {
     std::error_code Fehler;
-    const fs::path  Gesucht = Ordner / Pfad_Aus_Text(Name).relative_path();
-    if (fs::is_regular_file(Gesucht, Fehler))
-        return Gesucht;
-    const std::string Letzter = Gesucht.filename().string();
-    const fs::path    Wo = Gesucht.parent_path().empty() ? fs::path(".") : Gesucht.parent_path();
-    std::optional<fs::path> Treffer;
-    for (fs::directory_iterator i(Wo, Fehler), Ende; !Fehler && i != Ende; i.increment(Fehler)) {
-        if (!Gleich_Ohne_Fall(i->path().filename().string(), Letzter) ||
-            !i->is_regular_file(Fehler))
-            continue;
-        if (!Treffer || i->path() < *Treffer) // the same choice whatever the folder's order
-            Treffer = i->path();
+    const fs::path  Teile = Pfad_Aus_Text(Name).relative_path();
+    fs::path        Pfad  = Ordner / Teile;
+    if (!fs::is_regular_file(Pfad, Fehler)) {
+        Pfad = Ordner;
+        for (const fs::path& Teil : Teile)
+            Pfad = Eintrag_Ohne_Fall(Pfad, Teil);
     }
-    return Treffer;
+    return fs::is_regular_file(Pfad, Fehler) ? std::optional(Pfad) : std::nullopt;
 }
 
 std::string Programm_Pfad_Bestimmen()
@@ -91,8 +104,10 @@ std::string Programm_Pfad_Bestimmen()
     std::error_code Fehler;
     fs::create_directories(Benutzer, Fehler);
     if (!Vorlage.empty() && !Haelt_Programmdateien(Benutzer))
-        fs::copy(Vorlage, Benutzer,
-                 fs::copy_options::recursive | fs::copy_options::skip_existing, Fehler);
+        fs::copy(Vorlage,
+                 Benutzer,
+                 fs::copy_options::recursive | fs::copy_options::skip_existing,
+                 Fehler);
     // A folder that can't be made (read-only home): the installed files serve as they are.
     return Mit_Trenner(Haelt_Programmdateien(Benutzer) || Vorlage.empty() ? Benutzer : Vorlage);
 }

@@ -89,7 +89,7 @@ void Plattform_Zuruecksetzen()
                          &Stille_Welt.Ereignisse,
                          &Stille_Welt.Edit,
                          &Stille_Welt.Notiz,
-                            &Stille_Welt.Port};
+                         &Stille_Welt.Port};
 }
 
 } // namespace varnholt

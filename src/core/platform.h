@@ -1,5 +1,5 @@
-// The wall: what the logic wants from the outside world, and nothing else. Three worlds stand behind
-// it: the windows (ui/), the terminal (cli/) and the script of a test (tests/support).
+// The wall: what the logic wants from the outside world, and nothing else. Three worlds stand
+// behind it: the windows (ui/), the terminal (cli/) and the script of a test (tests/support).
 #pragma once
 
 #include <cstdint>
@@ -40,7 +40,8 @@ public:
     virtual int Bereich_Waehlen(std::string_view Text) = 0;
 };
 
-// The `status` dialog: a text, a bar from 0 to 100 and the button `Abbrechen`, which sets `Abbruch`.
+// The `status` dialog: a text, a bar from 0 to 100 and the button `Abbrechen`, which sets
+// `Abbruch`.
 class Statusdialog {
 public:
     virtual ~Statusdialog()                   = default;
@@ -53,12 +54,12 @@ public:
 // The event loop and what hangs on the windows as a whole.
 class Ereignisschleife {
 public:
-    virtual ~Ereignisschleife()                  = default;
-    virtual void Eine_Runde()                    = 0; // lets the user interface breathe once
-    virtual void Mauszeiger_Warten(bool Warten)  = 0;
-    virtual void Fenster_Sperren(bool Gesperrt)  = 0;
+    virtual ~Ereignisschleife()                 = default;
+    virtual void Eine_Runde()                   = 0; // lets the user interface breathe once
+    virtual void Mauszeiger_Warten(bool Warten) = 0;
+    virtual void Fenster_Sperren(bool Gesperrt) = 0;
     // Lets the user see a finished dialog for that long, the event loop running meanwhile.
-    virtual void Pause(double Sekunden)          = 0;
+    virtual void Pause(double Sekunden)                    = 0;
     virtual void Titel(int Fenster, std::string_view Text) = 0; // window number of Fenster_Tabelle
 };
 
@@ -66,31 +67,32 @@ public:
 // characters from 0, lines from 0.
 class Textfeld {
 public:
-    virtual ~Textfeld()                                                  = default;
-    virtual std::string Text() const                                     = 0;
-    virtual void        Text_Setzen(std::string Neuer)                   = 0;
+    virtual ~Textfeld()                                                      = default;
+    virtual std::string Text() const                                         = 0;
+    virtual void        Text_Setzen(std::string Neuer)                       = 0;
     virtual void        Auswaehlen(std::int64_t Anfang, std::int64_t Laenge) = 0;
-    virtual void        Fokus()                                          = 0;
+    virtual void        Fokus()                                              = 0;
 };
 
 // The port driver under the names of the field. A code above 0 is an error of the driver.
 class Porttreiber {
 public:
-    virtual ~Porttreiber()                                               = default;
-    virtual int  KS_openDriver()                                         = 0;
-    virtual int  KS_calibrateMachineTime(std::uint32_t& Eichwert)        = 0;
-    virtual int  KS_enableIoRange(std::int32_t Adresse, int Anzahl)      = 0;
-    virtual void KS_outpb(std::int32_t Adresse, std::uint8_t Wert)       = 0;
-    virtual std::uint8_t KS_inpb(std::int32_t Adresse)                   = 0;
-    virtual int  KS_getMachineTime(std::int64_t& Stempel)                = 0; // microseconds
-    virtual std::string KS_getErrorStringEx(int Code)                    = 0;
+    virtual ~Porttreiber()                                                  = default;
+    virtual int          KS_openDriver()                                    = 0;
+    virtual int          KS_calibrateMachineTime(std::uint32_t& Eichwert)   = 0;
+    virtual int          KS_enableIoRange(std::int32_t Adresse, int Anzahl) = 0;
+    virtual void         KS_outpb(std::int32_t Adresse, std::uint8_t Wert)  = 0;
+    virtual std::uint8_t KS_inpb(std::int32_t Adresse)                      = 0;
+    virtual int          KS_getMachineTime(std::int64_t& Stempel)           = 0; // microseconds
+    virtual std::string  KS_getErrorStringEx(int Code)                      = 0;
     // Waiting, as far as a port takes part in it. Sleep and the seconds clock stand here because a
-    // simulated board has a clock of its own. Wartet announces a busy wait of that many microseconds
-    // (SekundenWartet: seconds) before it begins: a simulated clock jumps over it, a recorder notes it.
-    virtual void   Sleep(int Millisekunden)               = 0;
-    virtual double Sekunden_seit_Mitternacht()            = 0;
-    virtual void   Wartet(std::int64_t Mikrosekunden)     = 0;
-    virtual void   Sekunden_Wartet(double Sekunden)       = 0;
+    // simulated board has a clock of its own. Wartet announces a busy wait of that many
+    // microseconds (SekundenWartet: seconds) before it begins: a simulated clock jumps over it, a
+    // recorder notes it.
+    virtual void   Sleep(int Millisekunden)           = 0;
+    virtual double Sekunden_seit_Mitternacht()        = 0;
+    virtual void   Wartet(std::int64_t Mikrosekunden) = 0;
+    virtual void   Sekunden_Wartet(double Sekunden)   = 0;
 };
 
 // Everything behind the wall, one pointer each, never null: until a program puts its own world in

@@ -38,20 +38,20 @@ inline struct Dokument_T {
     std::string                Datei_Name{};       // full path (UTF-8), empty when there is none
     std::array<std::string, 3> Letzte_Datei{};     // recent files, newest first
     std::string                Start_Verzeichnis = "Erststart"; // where file dialogs open
-    std::string                Programm_Pfad{};    // folder of the program's files, ends in a separator
-    bool                       Datei_Geaendert   = false; // unsaved changes
-    bool                       Text_Aktuell      = false; // source text and image are in step
-    bool                       Text_Veraendert   = false; // text changed since the last undo snapshot
-    bool                       Text_Sperre       = false; // the editor ignores its change events
-    bool                       Debugger_Aktiv    = false; // a debugger session is on
-    bool                       Init_Laeuft       = false; // start-up in progress
-    bool                       Vergleich_Laeuft  = false; // a load runs only to compare
-    bool                       Import_Laeuft     = false; // a load runs as a data import ...
-    std::int32_t               Import_Adresse    = 0;     // ... at this address, 0 to 524288
-    int                        Aktives_Fenster   = 0;     // 1 Hexedit, 2 Edit, 5 Spr, 6 Notiz, 9 F_SIM_EXRAM
-    int                        Assembler_Fehler  = 0;     // 1: the last assembly stopped with an error
-    bool                       Abbruch           = false; // cancel button of the status dialog
-    int                        Antwort           = 0;     // answer of the last message box
+    std::string  Programm_Pfad{};          // folder of the program's files, ends in a separator
+    bool         Datei_Geaendert  = false; // unsaved changes
+    bool         Text_Aktuell     = false; // source text and image are in step
+    bool         Text_Veraendert  = false; // text changed since the last undo snapshot
+    bool         Text_Sperre      = false; // the editor ignores its change events
+    bool         Debugger_Aktiv   = false; // a debugger session is on
+    bool         Init_Laeuft      = false; // start-up in progress
+    bool         Vergleich_Laeuft = false; // a load runs only to compare
+    bool         Import_Laeuft    = false; // a load runs as a data import ...
+    std::int32_t Import_Adresse   = 0;     // ... at this address, 0 to 524288
+    int          Aktives_Fenster  = 0;     // 1 Hexedit, 2 Edit, 5 Spr, 6 Notiz, 9 F_SIM_EXRAM
+    int          Assembler_Fehler = 0;     // 1: the last assembly stopped with an error
+    bool         Abbruch          = false; // cancel button of the status dialog
+    int          Antwort          = 0;     // answer of the last message box
 } Dokument;
 
 inline constinit auto& Modus             = Dokument.Modus;

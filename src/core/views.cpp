@@ -1,6 +1,6 @@
 // Redraw and lock requests to the windows. The views compare counters and draw when they find time.
-#include "core/commands.h"
 #include "core/views.h"
+#include "core/commands.h"
 #include "core/platform.h"
 
 namespace varnholt {

@@ -27,20 +27,6 @@ std::span<std::uint8_t> Eigentliches_Bild()
     return std::span(Hex_Daten).first(static_cast<std::size_t>(Bild_Groesse));
 }
 
-bool Datei_Vorhanden()
-{
-    std::error_code Fehler;
-    const auto      Lage = std::filesystem::status(Datei_Name, Fehler);
-    return std::filesystem::exists(Lage) && !std::filesystem::is_directory(Lage);
-}
-
-void Datei_Fehlt()
-{
-    Melden({"Konnte die Datei " + Datei_Name + " nicht finden !",
-            "Couldn´t find the file " + Datei_Name + " !"});
-    Datei_Fehler = Dateifehler::Nicht_Gefunden;
-}
-
 // Notes, folder, recent files and flags after a load that isn't made only to compare.
 void Laden_Verbuchen(bool Notiz_Mit_RTF)
 {
@@ -178,7 +164,8 @@ void Quelle_Laden()
     }
     Modus_Wechseln(Modus_MC);
     Quell_Datei = Text_Entschluesseln(std::move(*Bytes));
-    Plattform.Edit->Text_Setzen(Quell_Datei.Text);
+    Plattform.Edit->Text_Setzen(std::move(Quell_Datei.Text));
+    Quell_Datei.Text.clear();
     Plattform.Ereignisse->Titel(2, "MC-Editor " + Datei_Name);
     Laden_Verbuchen(false);
 }
@@ -196,15 +183,25 @@ void Nach_Typ_Laden()
 
 } // namespace
 
+bool Datei_Gefunden()
+{
+    std::error_code Fehler;
+    const auto      Lage = std::filesystem::status(Dialog_Name, Fehler);
+    if (std::filesystem::exists(Lage) && !std::filesystem::is_directory(Lage))
+        return true;
+    Melden({"Konnte die Datei " + Dialog_Name + " nicht finden !",
+            "Couldn´t find the file " + Dialog_Name + " !"});
+    Datei_Fehler = Dateifehler::Nicht_Gefunden;
+    return false;
+}
+
 void Datei_Laden()
 {
     Plattform.Ereignisse->Mauszeiger_Warten(true);
     Datei_Fehler             = Dateifehler::Keiner;
     const std::string Bisher = std::exchange(Datei_Name, Dialog_Name);
-    if (Datei_Vorhanden())
+    if (Datei_Gefunden())
         Nach_Typ_Laden();
-    else
-        Datei_Fehlt();
     if (Datei_Fehler == Dateifehler::Lesefehler)
         Datei_Name = Bisher; // a later save must not go over the file that couldn't be read
     Plattform.Ereignisse->Mauszeiger_Warten(false);

@@ -16,6 +16,8 @@ namespace varnholt {
 // sets: Hex_Daten or Edit, Notiz, Modus, Datei_Name, Dialog_Verzeichnis, Letzte_Datei,
 // Text_Aktuell, Text_Veraendert, Datei_Geaendert, IC_Nummer, Datei_Fehler
 void Datei_Laden();
+// True when the file Dialog_Name is there; a message tells that it isn't.   sets: Datei_Fehler
+[[nodiscard]] bool Datei_Gefunden();
 
 // files/Import.cpp
 // The address that the user typed: hexadecimal with a trailing h or H, else decimal as far as it

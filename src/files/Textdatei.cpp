@@ -7,7 +7,6 @@
 #include "files/Zeilenabgleich.h"
 #include "files/Zeilenleser.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <vector>
 
@@ -43,12 +42,6 @@ std::string_view Ohne_BOM(std::string_view Bytes, Kodierung Zeichensatz)
     return Zeichensatz == Kodierung::UTF8_mit_BOM ? Bytes.substr(BOM.size()) : Bytes;
 }
 
-std::string In_1252(std::string_view Bytes, Kodierung Zeichensatz)
-{
-    const bool Gleich = Zeichensatz == Kodierung::Windows_1252 || Nur_ASCII(Bytes);
-    return Gleich ? std::string(Bytes) : Aus_UTF8(Bytes);
-}
-
 std::string Aus_1252(std::string_view Text, Kodierung Zeichensatz)
 {
     return Zeichensatz == Kodierung::Windows_1252 ? std::string(Text) : Nach_UTF8(Text);
@@ -56,12 +49,13 @@ std::string Aus_1252(std::string_view Text, Kodierung Zeichensatz)
 
 Enden_T Enden_Zaehlen(std::string_view t)
 {
-    const auto  CR = static_cast<std::size_t>(std::count(t.begin(), t.end(), '\r'));
-    const auto  LF = static_cast<std::size_t>(std::count(t.begin(), t.end(), '\n'));
-    std::size_t CR_LF = 0;
-    for (std::size_t i = t.find('\r'); CR > 0 && i < t.size(); i = t.find('\r', i + 1))
-        CR_LF += i + 1 < t.size() && t[i + 1] == '\n';
-    return {CR_LF, LF - CR_LF, CR - CR_LF};
+    Enden_T Zahl;
+    for (std::size_t i = t.find('\n'); i != std::string_view::npos; i = t.find('\n', i + 1))
+        ++(i > 0 && t[i - 1] == '\r' ? Zahl.CR_LF : Zahl.LF);
+    for (std::size_t i = t.find('\r'); i != std::string_view::npos; i = t.find('\r', i + 1))
+        ++Zahl.CR;
+    Zahl.CR -= Zahl.CR_LF;
+    return Zahl;
 }
 
 Zeilenende Haeufigstes(const Enden_T& Zahl)
@@ -84,10 +78,10 @@ std::string_view Zeichen_Des_Endes(Zeilenende Ende)
     return CRLF;
 }
 
-std::string Mit_CRLF(std::string Text, const Enden_T& Zahl)
+std::string Mit_CRLF(std::string_view Text, const Enden_T& Zahl)
 {
     if (Zahl.LF == 0 && Zahl.CR == 0)
-        return Text;
+        return std::string(Text);
     std::string Ziel;
     Ziel.reserve(Text.size() + Zahl.LF + Zahl.CR);
     Zeilenleser Leser(Text);
@@ -97,6 +91,14 @@ std::string Mit_CRLF(std::string Text, const Enden_T& Zahl)
             Ziel += CRLF;
     }
     return Ziel;
+}
+
+// The text of the bytes in Windows-1252, every line ended by CR LF. ASCII is the same in both.
+std::string In_1252(std::string_view Bytes, Kodierung Zeichensatz, const Enden_T& Zahl)
+{
+    if (Zeichensatz == Kodierung::Windows_1252 || Nur_ASCII(Bytes))
+        return Mit_CRLF(Bytes, Zahl);
+    return Mit_CRLF(Aus_UTF8(Bytes), Zahl);
 }
 
 std::vector<Textzeile_T> In_Zeilen(std::string_view t)
@@ -125,13 +127,20 @@ void Zeile_Anhaengen(std::string& Ziel, std::string_view Inhalt, std::string_vie
     Ziel += Verschmilzt ? CRLF : Ende;
 }
 
+// The text as it was loaded; made again when it was taken out.
+std::string Alter_Text(const Textdatei_T& Vorlage)
+{
+    return Vorlage.Text.empty() ? Text_Entschluesseln(Vorlage.Original).Text : Vorlage.Text;
+}
+
 // The bytes of an edited text, without a byte order mark.
-std::string Geaenderte_Bytes(std::string_view Text, const Textdatei_T& Vorlage)
+std::string
+Geaenderte_Bytes(std::string_view Text, std::string_view Alt_Text, const Textdatei_T& Vorlage)
 {
     const std::string_view         Original = Ohne_BOM(Vorlage.Original, Vorlage.Zeichensatz);
     const std::vector<Textzeile_T> Bytes    = In_Zeilen(Original);
     const std::vector<Textzeile_T> Neu      = In_Zeilen(Text);
-    const auto Alt_Von = Zeilen_Zuordnen(Inhalte(In_Zeilen(Vorlage.Text)), Inhalte(Neu));
+    const auto             Alt_Von    = Zeilen_Zuordnen(Inhalte(In_Zeilen(Alt_Text)), Inhalte(Neu));
     const std::string_view Neues_Ende = Zeichen_Des_Endes(Vorlage.Ende);
 
     std::string Ziel;
@@ -163,16 +172,17 @@ Textdatei_T Text_Entschluesseln(std::string Bytes)
     const std::string_view Inhalt = Ohne_BOM(Bytes, Datei.Zeichensatz);
     const Enden_T          Zahl   = Enden_Zaehlen(Inhalt);
     Datei.Ende                    = Haeufigstes(Zahl);
-    Datei.Text                    = Mit_CRLF(In_1252(Inhalt, Datei.Zeichensatz), Zahl);
+    Datei.Text                    = In_1252(Inhalt, Datei.Zeichensatz, Zahl);
     Datei.Original                = std::move(Bytes);
     return Datei;
 }
 
 std::string Text_Verschluesseln(std::string_view Text, const Textdatei_T& Vorlage)
 {
-    if (Text == Vorlage.Text && !Vorlage.Original.empty())
+    const std::string Alt = Alter_Text(Vorlage);
+    if (Text == Alt && !Vorlage.Original.empty())
         return Vorlage.Original;
-    std::string Bytes = Geaenderte_Bytes(Text, Vorlage);
+    std::string Bytes = Geaenderte_Bytes(Text, Alt, Vorlage);
     if (Vorlage.Zeichensatz == Kodierung::Windows_1252)
         // What happens to be UTF-8 would be read as such: then it is better UTF-8 of the right
         // text.

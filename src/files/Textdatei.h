@@ -14,7 +14,9 @@ enum class Zeilenende { CR_LF, LF, CR };
 
 // A loaded source text.
 struct Textdatei_T {
-    std::string Text{};     // Windows-1252, every line ended by CR LF as far as the file ends it
+    // Windows-1252, every line ended by CR LF as far as the file ends it. May be moved into the
+    // editor: what is needed of it later is made again from the original bytes.
+    std::string Text{};
     std::string Original{}; // the bytes of the file as they were; empty for a new text
     Kodierung   Zeichensatz = Kodierung::UTF8;
     Zeilenende  Ende        = Zeilenende::CR_LF; // the one that most lines have

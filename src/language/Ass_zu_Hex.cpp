@@ -23,6 +23,7 @@
 namespace varnholt {
 namespace {
 
+constexpr int Prozent_Vorher    = 10; // shown by the preparing sweep
 constexpr int Prozent_Vor_Bytes = 12;
 constexpr int Prozent_Schritte  = 88;
 
@@ -62,7 +63,10 @@ Quell_Stueck Stueck_Von(std::string& Text, std::size_t Von, std::size_t Bis)
 // behind it is taken for the LF.
 void In_Zeilen_Teilen(std::string& Text)
 {
-    Quell_Zeilen.reserve(static_cast<std::size_t>(std::count(Text.begin(), Text.end(), '\r')) + 20);
+    std::size_t Zeilen = 1;
+    for (std::size_t CR = Text.find('\r'); CR != std::string::npos; CR = Text.find('\r', CR + 1))
+        ++Zeilen;
+    Quell_Zeilen.reserve(Zeilen);
     std::size_t Anfang = 0;
     for (std::size_t CR = Text.find('\r'); CR != std::string::npos; CR = Text.find('\r', CR + 1)) {
         Quell_Zeilen.push_back({.Text = Stueck_Von(Text, Anfang, CR)});
@@ -86,7 +90,7 @@ void Text_Holen()
 void Zeilen_Vorbereiten()
 {
     for (Zeilen_Index = 0; Zeilen_Index < Zeilen_Anzahl(); ++Zeilen_Index) {
-        Diese_Zeile().Offen.clear();
+        Diese_Zeile().Offen.Leeren();
         Zeile_Normieren(Diese_Zeile().Text);
         Marke_Abtrennen();
         if (Ist_Include())
@@ -128,10 +132,15 @@ void Wertzeile_Uebersetzen()
 {
     Operanden_Lesen();
     switch (Basic_Uebersetzen()) {
-    case Basic_Ergebnis::Fertig: return;
-    case Basic_Ergebnis::Fehler: Unbekannte_Zeile_Melden();
-    case Basic_Ergebnis::Byte: Befehl_Abschliessen(); return;
-    case Basic_Ergebnis::Keines: break;
+    case Basic_Ergebnis::Fertig:
+        return;
+    case Basic_Ergebnis::Fehler:
+        Unbekannte_Zeile_Melden();
+    case Basic_Ergebnis::Byte:
+        Befehl_Abschliessen();
+        return;
+    case Basic_Ergebnis::Keines:
+        break;
     }
     if (Form_Versuchen())
         Befehl_Abschliessen();
@@ -169,7 +178,7 @@ void Offene_Strukturen_Melden();
 void Bytes_Erzeugen()
 {
     const int Schritt = std::max(Zeilen_Anzahl() / Prozent_Schritte, 1);
-    int       Prozent = Prozent_Vor_Bytes;
+    int       Prozent = Prozent_Vorher;
     for (Zeilen_Index = 0; Zeilen_Index < Zeilen_Anzahl(); ++Zeilen_Index) {
         if (!Inline_IF)
             Diese_Zeile().Adresse = Adress_Zaehler;
@@ -190,7 +199,8 @@ void Bytes_Erzeugen()
 // nearest one that begins with the word.
 void Struktur_Zeile_Waehlen(std::int32_t Adresse, std::string_view Wort)
 {
-    const auto Ab = std::find_if(Quell_Zeilen.begin(), Quell_Zeilen.end(),
+    const auto Ab = std::find_if(Quell_Zeilen.begin(),
+                                 Quell_Zeilen.end(),
                                  [&](const Quell_Zeile& z) { return z.Adresse >= Adresse; });
     Zeilen_Index  = std::min(static_cast<int>(Ab - Quell_Zeilen.begin()), Zeilen_Anzahl() - 1);
     while (Zeilen_Index > 0 && !Beginnt_Ohne_Fall(Diese_Zeile().Text, Wort))

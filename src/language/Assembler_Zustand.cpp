@@ -69,6 +69,7 @@ void Quellzeilen_Loeschen()
 {
     Quell_Zeilen.clear();
     Quell_Texte.clear();
+    Assembler.Ziel_Texte.Leeren();
 }
 
 void Assembler_Zuruecksetzen()

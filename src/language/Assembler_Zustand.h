@@ -4,6 +4,7 @@
 #include "core/messages.h"
 #include "language/Namen.h"
 #include "language/Quell_Stueck.h"
+#include "language/Text_Ablage.h"
 
 #include <array>
 #include <cstdint>
@@ -33,12 +34,13 @@ inline constexpr int Herkunft_Include       = 2;
 
 // One source row.
 struct Quell_Zeile {
-    Quell_Stueck Text{};       // as typed, then normalised; labels and heads are cut away as it is worked on
-    Quell_Stueck Marke{};      // label in upper case with its colon, empty without one
-    std::string  Offen{};      // unresolved target operand, empty if nothing is open
-    std::int32_t Adresse  = 0; // Adress_Zaehler when the row was reached
-    std::int32_t Versatz  = 0; // from Adresse to the instruction that Offen belongs to (one-line IF)
-    std::int32_t Zusatz   = 0; // signed addend of MOV DPTR,#name+n
+    Quell_Stueck
+        Text{}; // as typed, then normalised; labels and heads are cut away as it is worked on
+    Quell_Stueck Marke{};     // label in upper case with its colon, empty without one
+    Quell_Stueck Offen{};     // unresolved target operand, empty if nothing is open
+    std::int32_t Adresse = 0; // Adress_Zaehler when the row was reached
+    std::int32_t Versatz = 0; // from Adresse to the instruction that Offen belongs to (one-line IF)
+    std::int32_t Zusatz  = 0; // signed addend of MOV DPTR,#name+n
     int          Herkunft = 0; // Herkunft_Haupttext, _Prozessorfile or _Include
 };
 
@@ -60,7 +62,8 @@ struct Listen_Zeile {
 // Holds from one assembly to the end of its caller's use.
 inline struct Assembler_T {
     std::vector<Quell_Zeile>     Quell_Zeilen{};
-    std::list<std::string>       Quell_Texte{};         // main text and included files; the rows point in
+    std::list<std::string>       Quell_Texte{}; // main text and included files; the rows point in
+    Text_Ablage                  Ziel_Texte{};  // what the rows' open targets point into
     std::vector<Include_Eintrag> Include_Liste{};
     std::int32_t                 Code_Ende         = 0; // one past the last address reached
     std::int32_t                 Befehl_Zaehler    = 0; // machine instructions emitted
@@ -85,16 +88,15 @@ using Marken_Verzeichnis = std::unordered_map<std::string_view, int>;
 
 // Holds during one Assemblieren().
 inline struct Lauf_T {
-    int                         Zeilen_Index    = 0;     // row in work
-    std::int32_t                Adress_Zaehler  = 0;     // next code address
-    int                         Befehls_Laenge  = 0;     // bytes of the line's instruction, 0 to 3
-    bool                        Ende_Erreicht   = false; // END stops the emitting sweep
-    std::string                 Zeile_Gross{};           // the row in upper case, its values cut out
-    std::string                 Zeile_Rein{};            // the same in its own case, during the scan
-    Marken_Verzeichnis          Marken{};                // label without colon to its row
-    std::vector<Listen_Zeile>   Listen_Zeilen{};
-    bool                        Prozessorfile = false;   // some included file is a processor file
-    bool                        Ohne_Ende_IF  = false;   // no #END IF stands in the rows to come
+    int                       Zeilen_Index   = 0;     // row in work
+    std::int32_t              Adress_Zaehler = 0;     // next code address
+    int                       Befehls_Laenge = 0;     // bytes of the line's instruction, 0 to 3
+    bool                      Ende_Erreicht  = false; // END stops the emitting sweep
+    std::string               Zeile_Gross{};          // the row in upper case, its values cut out
+    std::string               Zeile_Rein{};           // the same in its own case, during the scan
+    Marken_Verzeichnis        Marken{};               // label without colon to its row
+    std::vector<Listen_Zeile> Listen_Zeilen{};
+    bool                      Ohne_Ende_IF = false; // no #END IF stands in the rows to come
 } Lauf;
 
 inline constinit auto& Zeilen_Index   = Lauf.Zeilen_Index;
@@ -123,17 +125,18 @@ inline constinit auto& Bit_Zwei    = Operanden.Bit_Zwei;
 // The structured statements that are open.
 inline struct Struktur_T {
     struct Schleife_T {
-        std::int32_t Adresse = 0; // of the loop's first instruction
-        int          Ende    = 0; // end value
+        std::int32_t Adresse                      = 0; // of the loop's first instruction
+        int          Ende                         = 0; // end value
         enum Art_T { Akku, Register, Direkt } Art = Akku;
-        int Ziel = 0; // register number or direct address
+        int Ziel                                  = 0; // register number or direct address
     };
-    int                                           IF_Tiefe  = 0; // may fall below 0: END IF without IF
-    int                                           FOR_Tiefe = 0; // likewise
-    std::array<std::int32_t, Tiefe_Hoechstens + 1> IF_Stapel{};  // addresses to patch, from element 1
-    std::array<Schleife_T, Tiefe_Hoechstens + 1>   FOR_Stapel{}; // from element 1
-    bool                                          Inline_IF     = false; // a one-line IF waits for its tail
-    int                                           Inline_Zusatz = 0; // bytes to skip beyond the tail
+    int IF_Tiefe  = 0; // may fall below 0: END IF without IF
+    int FOR_Tiefe = 0; // likewise
+    std::array<std::int32_t, Tiefe_Hoechstens + 1>
+                                                 IF_Stapel{};  // addresses to patch, from element 1
+    std::array<Schleife_T, Tiefe_Hoechstens + 1> FOR_Stapel{}; // from element 1
+    bool Inline_IF     = false;                                // a one-line IF waits for its tail
+    int  Inline_Zusatz = 0;                                    // bytes to skip beyond the tail
 } Struktur;
 
 inline constinit auto& IF_Tiefe      = Struktur.IF_Tiefe;
@@ -145,6 +148,15 @@ inline constinit auto& Inline_Zusatz = Struktur.Inline_Zusatz;
 
 inline int          Zeilen_Anzahl() { return static_cast<int>(Quell_Zeilen.size()); }
 inline Quell_Zeile& Diese_Zeile() { return Quell_Zeilen[static_cast<std::size_t>(Zeilen_Index)]; }
+
+// The comparison form as it stands now. As a view, so that a comparison looks at the length first.
+inline std::string_view Form_Jetzt() { return Lauf.Zeile_Gross; }
+// The first character decides almost always whether it begins so.
+inline bool Form_Beginnt(std::string_view Anfang)
+{
+    const std::string_view Form = Form_Jetzt();
+    return Form.starts_with(Anfang.front()) && Form.starts_with(Anfang);
+}
 
 // Element n of Wert_Liste, counted from 1.
 inline std::int32_t& Wert_Nr(int n) { return Wert_Liste[static_cast<std::size_t>(n - 1)]; }

@@ -20,11 +20,12 @@ void Groesse_Pruefen()
 {
     if (Code_Ende <= IC_Groesse_Gewaehlt())
         return;
-    Melden({"Die Hex-Daten passen nicht in das von Ihnen gewählte IC " + IC_Menue_Name() +
-                ". Daher müssen Sie sich ein anderes IC aus dem Menü 'IC' -> 'Typ wählen' aussuchen "
-                "oder den Programmcode verkleinern.",
-            "The hex-date doesn´t fit into the IC you have choosen. So you must choose another IC "
-            "or try to minimize your programcode."});
+    Melden(
+        {"Die Hex-Daten passen nicht in das von Ihnen gewählte IC " + IC_Menue_Name() +
+             ". Daher müssen Sie sich ein anderes IC aus dem Menü 'IC' -> 'Typ wählen' aussuchen "
+             "oder den Programmcode verkleinern.",
+         "The hex-date doesn´t fit into the IC you have choosen. So you must choose another IC "
+         "or try to minimize your programcode."});
     for (std::int32_t a = std::max(Code_Ende, 0); a <= Bild_Groesse; ++a)
         Hex_Daten[static_cast<std::size_t>(a)] = 0xFF;
     IC_Typ_Löschen();
@@ -39,19 +40,19 @@ void Automatisch_Speichern(const std::string& Stamm, bool Gewuenscht, const char
     Datei_Speichern();
 }
 
-// The image beside the source, as binary and as hex file. The recent files stay as they were.
+// The image beside the source, as binary and as hex file. The recent files stay as they were, and
+// the editor of the source is the mode afterwards.
 void Automatische_Dateien()
 {
     const std::size_t Punkt = Quell_Pfad.rfind('.');
     if (Quell_Pfad.empty() || Punkt == std::string::npos || Punkt == 0)
         return;
-    const std::string Stamm   = Quell_Pfad.substr(0, Punkt);
-    const auto        Letzte  = Letzte_Datei;
-    const int         Vorher  = Modus;
-    Modus                     = Modus_Hex;
+    const std::string Stamm  = Quell_Pfad.substr(0, Punkt);
+    const auto        Letzte = Letzte_Datei;
+    Modus                    = Modus_Hex;
     Automatisch_Speichern(Stamm, C_Auto_Binfile, ".bin");
     Automatisch_Speichern(Stamm, C_Auto_Hexfile, ".hex");
-    Modus        = Vorher;
+    Modus        = Modus_MC;
     Letzte_Datei = Letzte;
 }
 

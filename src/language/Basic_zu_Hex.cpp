@@ -75,8 +75,6 @@ constexpr Zuweisung Zuweisungen[] = {
 };
 // clang-format on
 
-bool Beginnt(std::string_view Anfang) { return Lauf.Zeile_Gross.starts_with(Anfang); }
-
 // What the holes of a byte row stand for.
 struct Luecken {
     std::int32_t v = 0, d = 0, e = 0, b = 0, w = 0;
@@ -96,13 +94,20 @@ std::int32_t Byte_Des_Stuecks(std::string_view Stueck, const Luecken& l)
     if (Stueck == "lo")
         return l.Ziel < 0 ? -1 : l.Ziel % 256;
     switch (Stueck.size() == 1 ? Stueck.front() : ' ') {
-    case 'v': return l.v;
-    case 'd': return l.d;
-    case 'e': return l.e;
-    case 'b': return l.b;
-    case 'w': return l.w;
-    case 'r': return -1;
-    default: return Hex_zu_Wert(Stueck);
+    case 'v':
+        return l.v;
+    case 'd':
+        return l.d;
+    case 'e':
+        return l.e;
+    case 'b':
+        return l.b;
+    case 'w':
+        return l.w;
+    case 'r':
+        return -1;
+    default:
+        return Hex_zu_Wert(Stueck);
     }
 }
 
@@ -186,7 +191,8 @@ Basic_Ergebnis IF_Setzen(const IF_Form& f, int n)
 {
     const bool         Zwei = f.Werte == 2;
     const std::int32_t v    = Zwei ? Wert_Nr(2) : Wert_Nr(1);
-    if (f.Form.find(">#") != std::string_view::npos && f.Form.find("<>") == std::string_view::npos && v == 255)
+    if (f.Form.find(">#") != std::string_view::npos &&
+        f.Form.find("<>") == std::string_view::npos && v == 255)
         return Fehler_Marke("ERR5");
     if (f.Form.find("<#") != std::string_view::npos && v == 0)
         return Fehler_Marke("ERR6");
@@ -195,7 +201,8 @@ Basic_Ergebnis IF_Setzen(const IF_Form& f, int n)
                "An IF is not possible as instruction behind THEN !");
     const bool         Block  = Lauf.Zeile_Gross.size() == f.Form.size();
     const std::int32_t Anfang = Adress_Zaehler;
-    const int Offene = Reihe_Setzen(Block ? f.Block : f.Einzeilig, {v, Wert_Nr(1), v, Wert_Nr(1), 0, n, -1});
+    const int          Offene =
+        Reihe_Setzen(Block ? f.Block : f.Einzeilig, {v, Wert_Nr(1), v, Wert_Nr(1), 0, n, -1});
     Befehl_Zaehler += Befehle_Zaehlen(Anfang, Adress_Zaehler);
     IF_Oeffnen(Anfang + Offene);
     if (!Block) {
@@ -237,8 +244,6 @@ Basic_Ergebnis FOR_Oeffnen(std::string_view Reihe, Struktur_T::Schleife_T::Art_T
 {
     const std::int32_t Von = Wert_Nr(Wert_Anzahl - 1);
     const std::int32_t Bis = Wert_Nr(Wert_Anzahl);
-    if (Von > Bis)
-        return Fehler_Marke("ERR8");
     if (FOR_Tiefe >= Tiefe_Hoechstens)
         Fehler("Es sind höchstens 100 verschachtelte FOR möglich !",
                "No more than 100 nested FOR are possible !");
@@ -251,8 +256,11 @@ Basic_Ergebnis FOR_Oeffnen(std::string_view Reihe, Struktur_T::Schleife_T::Art_T
 Basic_Ergebnis FOR_Uebersetzen()
 {
     using Schleife = Struktur_T::Schleife_T;
-    if (Wert_Anzahl == 2 || Wert_Anzahl == 3)
-        Bytes_Pruefen(Wert_Anzahl);
+    if (Wert_Anzahl != 2 && Wert_Anzahl != 3)
+        return Basic_Ergebnis::Keines;
+    Bytes_Pruefen(Wert_Anzahl); // the values are checked before the form is known
+    if (Wert_Nr(Wert_Anzahl - 1) > Wert_Nr(Wert_Anzahl))
+        return Fehler_Marke("ERR8");
     const std::string_view Form = Lauf.Zeile_Gross;
     if (Wert_Anzahl == 2 && Form == "FORA=#TO#")
         return FOR_Oeffnen("74 v", Schleife::Akku, 0);
@@ -274,7 +282,7 @@ Basic_Ergebnis NEXT_Uebersetzen()
 // Rn=A and A=Rn.
 Basic_Ergebnis Register_Zuweisung()
 {
-    int n = Lauf.Zeile_Gross.size() == 4 ? Form_Passt("Rn=A") : -1;
+    int n      = Lauf.Zeile_Gross.size() == 4 ? Form_Passt("Rn=A") : -1;
     int Opcode = 0xF8;
     if (n < 0) {
         n      = Lauf.Zeile_Gross.size() == 4 ? Form_Passt("A=Rn") : -1;
@@ -290,7 +298,7 @@ Basic_Ergebnis Register_Zuweisung()
 // `Rn=#v` and `Rn=d`.
 void Register_Form_Umschreiben()
 {
-    std::string& Form = Lauf.Zeile_Gross;
+    std::string& Form          = Lauf.Zeile_Gross;
     const bool   Mit_Konstante = Form.size() == 4 && Form.back() == '#';
     if ((Mit_Konstante || Form.size() == 3) && Form_Passt("Rn=") >= 0)
         Form = "MOV" + Form.substr(0, 2) + (Mit_Konstante ? ",#" : ",");
@@ -300,13 +308,13 @@ void Register_Form_Umschreiben()
 Basic_Ergebnis Zuweisung_Uebersetzen()
 {
     std::string& Form = Lauf.Zeile_Gross;
-    if (Form == "=" && Wert_Anzahl == 2) {
+    if (Form_Jetzt() == "=" && Wert_Anzahl == 2) {
         if (!O_MOV_ZQ)
             std::swap(Wert_Nr(1), Wert_Nr(2));
         Form = "MOV,";
     } else if (Wert_Anzahl == 1) {
         for (const Zuweisung& z : Zuweisungen)
-            if (Form == z.Form) {
+            if (Form_Jetzt() == z.Form) {
                 Form = z.Wird;
                 return Basic_Ergebnis::Keines;
             }
@@ -322,15 +330,15 @@ Basic_Ergebnis Zuweisung_Uebersetzen()
 Basic_Ergebnis Basic_Uebersetzen()
 {
     Basic_Ergebnis Ergebnis = Basic_Ergebnis::Keines;
-    if (Beginnt("IF"))
+    if (Form_Beginnt("IF"))
         Ergebnis = IF_Uebersetzen();
-    else if (Lauf.Zeile_Gross == "ELSE")
+    else if (Form_Jetzt() == "ELSE")
         Ergebnis = ELSE_Uebersetzen();
-    else if (Lauf.Zeile_Gross == "ENDIF")
+    else if (Form_Jetzt() == "ENDIF")
         Ergebnis = END_IF_Uebersetzen();
-    else if (Beginnt("FOR"))
+    else if (Form_Beginnt("FOR"))
         Ergebnis = FOR_Uebersetzen();
-    else if (Beginnt("NEXT"))
+    else if (Form_Beginnt("NEXT"))
         Ergebnis = NEXT_Uebersetzen();
     return Ergebnis == Basic_Ergebnis::Keines ? Zuweisung_Uebersetzen() : Ergebnis;
 }

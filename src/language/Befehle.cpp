@@ -17,7 +17,10 @@ constexpr Kurz_Text Als_Text(std::string_view t)
     return k;
 }
 
-constexpr bool Ist_Fest(int Opcode) { return Befehle[static_cast<std::size_t>(Opcode)].Laenge == 1 && Opcode != 0xA5; }
+constexpr bool Ist_Fest(int Opcode)
+{
+    return Befehle[static_cast<std::size_t>(Opcode)].Laenge == 1 && Opcode != 0xA5;
+}
 
 constexpr bool Hat_Vergleichsform(int Opcode)
 {

@@ -14,8 +14,8 @@ inline constexpr int Art_Keine = -2; // no direct address
 inline constexpr int Art_Byte  = 1;  // addresses a byte: bit names are refused
 inline constexpr int Art_Bit   = 8;  // addresses a bit: byte names are refused
 
-// A row of the table. Pattern letters: r register R0 to R7, i indirect register, p page 0 to 7; they
-// stand for the same letter in the template. In a template `!` is one operand byte.
+// A row of the table. Pattern letters: r register R0 to R7, i indirect register, p page 0 to 7;
+// they stand for the same letter in the template. In a template `!` is one operand byte.
 struct Befehls_Muster {
     std::string_view Muster;
     std::string_view Text;

@@ -17,10 +17,10 @@ namespace {
 
 constexpr std::size_t Kopf_Laenge = 4; // HEX:, DEZ:, ASC:
 
-bool Beginnt(std::string_view Anfang) { return Lauf.Zeile_Gross.starts_with(Anfang); }
-
-[[noreturn]] void Feld_Fehler(std::string_view Feld_D, std::string_view Feld_E,
-                              std::string_view Bereich_D, std::string_view Bereich_E)
+[[noreturn]] void Feld_Fehler(std::string_view Feld_D,
+                              std::string_view Feld_E,
+                              std::string_view Bereich_D,
+                              std::string_view Bereich_E)
 {
     Fehler("Bitte verwenden Sie bei " + std::string(Feld_D) + " nur die Werte " +
                std::string(Bereich_D) + " und trennen Sie diese durch ein Komma oder Leerzeichen !",
@@ -28,10 +28,22 @@ bool Beginnt(std::string_view Anfang) { return Lauf.Zeile_Gross.starts_with(Anfa
                std::string(Bereich_E) + " and seperate them with a comma or a spacesign!");
 }
 
-[[noreturn]] void Hex_Fehler() { Feld_Fehler("Hex-Datenfelder", "hex fields", "00 bis FF", "00 till FF"); }
-[[noreturn]] void Dez_Fehler() { Feld_Fehler("Dez-Datenfelder", "dez fields", "0 bis 255", "0 till 255"); }
-[[noreturn]] void DB_Fehler() { Feld_Fehler("DB-Datenfeldern", "db data fields", "0 bis 255", "0 till 255"); }
-[[noreturn]] void DW_Fehler() { Feld_Fehler("DW-Datenfeldern", "dw data fields", "0 bis 65535", "0 till 65535"); }
+[[noreturn]] void Hex_Fehler()
+{
+    Feld_Fehler("Hex-Datenfelder", "hex fields", "00 bis FF", "00 till FF");
+}
+[[noreturn]] void Dez_Fehler()
+{
+    Feld_Fehler("Dez-Datenfelder", "dez fields", "0 bis 255", "0 till 255");
+}
+[[noreturn]] void DB_Fehler()
+{
+    Feld_Fehler("DB-Datenfeldern", "db data fields", "0 bis 255", "0 till 255");
+}
+[[noreturn]] void DW_Fehler()
+{
+    Feld_Fehler("DW-Datenfeldern", "dw data fields", "0 bis 65535", "0 till 65535");
+}
 
 void Byte_Ablegen(std::int32_t Wert)
 {
@@ -48,7 +60,9 @@ std::string_view Hinter_Kopf(std::string_view Zeile)
     return Zeile;
 }
 
-void Werte_Ablegen(std::string_view Rest, std::int32_t (*Lesen)(std::string_view), void (*Melden_Fehler)())
+void Werte_Ablegen(std::string_view Rest,
+                   std::int32_t (*Lesen)(std::string_view),
+                   void (*Melden_Fehler)())
 {
     while (!Rest.empty()) {
         const std::size_t  Laenge = std::min(Rest.find_first_of(", "), Rest.size());
@@ -96,10 +110,10 @@ bool Feste_Adresse()
     if (Wert_Nr(1) < 0 || Wert_Nr(1) > 0xFFFF)
         Fehler("Bitte verwenden Sie innerhalb von festen Sprunglabeln nur Werte von 0 bis 65535 !",
                "Please use within fixed jumplabel only values between 0 and 65535 !");
-    Quell_Zeile&      Zeile      = Diese_Zeile();
+    Quell_Zeile&      Zeile       = Diese_Zeile();
     const std::size_t Doppelpunkt = std::min(Zeile.Text.Ansicht().find(':'), Zeile.Text.size() - 1);
-    Adress_Zaehler               = Wert_Nr(1);
-    Zeile.Adresse                = Adress_Zaehler;
+    Adress_Zaehler                = Wert_Nr(1);
+    Zeile.Adresse                 = Adress_Zaehler;
     Listen_Adresse_Fest(std::string(Zeile.Text.Ansicht().substr(0, Doppelpunkt + 1)));
     Zeile.Text.Vorn_Abnehmen(Doppelpunkt + 1);
     if (Zeile.Text.Ansicht().starts_with(' '))
@@ -146,7 +160,8 @@ bool Definition()
 std::int32_t Dez_Wert(std::string_view Text)
 {
     // Only the characters of a number reach strtod, so that it knows no words and no hexadecimal.
-    std::string Zahl(Text.substr(0, std::min(Text.find_first_not_of("+-0123456789.Ee"), Text.size())));
+    std::string Zahl(
+        Text.substr(0, std::min(Text.find_first_not_of("+-0123456789.Ee"), Text.size())));
     const double Wert = std::strtod(Zahl.c_str(), nullptr);
     if (Wert >= Zahl_Obergrenze)
         return Zahl_Obergrenze;
@@ -155,17 +170,19 @@ std::int32_t Dez_Wert(std::string_view Text)
 
 bool Datenzeile_Versuchen()
 {
-    const bool Hex = Beginnt("HEX:");
-    const bool Dez = Beginnt("DEZ:");
+    const bool Hex = Form_Beginnt("HEX:");
+    const bool Dez = Form_Beginnt("DEZ:");
     if (Hex || Dez)
-        Werte_Ablegen(Hinter_Kopf(Lauf.Zeile_Gross), Hex ? Hex_zu_Wert : Dez_Wert, Hex ? Hex_Fehler : Dez_Fehler);
-    else if (Beginnt("ASC:"))
+        Werte_Ablegen(Hinter_Kopf(Lauf.Zeile_Gross),
+                      Hex ? Hex_zu_Wert : Dez_Wert,
+                      Hex ? Hex_Fehler : Dez_Fehler);
+    else if (Form_Beginnt("ASC:"))
         Zeichen_Ablegen(Hinter_Kopf(Diese_Zeile().Text));
-    else if (Beginnt("CONST"))
+    else if (Form_Beginnt("CONST"))
         Const_Eintragen();
     else
         return false;
-    Listen_Art_Setzen(Beginnt("CONST") ? Listen_Zeile::Definition : Listen_Zeile::Daten);
+    Listen_Art_Setzen(Form_Beginnt("CONST") ? Listen_Zeile::Definition : Listen_Zeile::Daten);
     Befehls_Laenge = 0;
     return true;
 }

@@ -16,8 +16,8 @@ bool Datenzeile_Versuchen();
 // sets: Hex_Daten, Adress_Zaehler, Befehls_Laenge, Namen_Tabelle, the row's Text, Ende_Erreicht
 bool Anweisung_Versuchen();
 
-// Value of a text of DEZ: by its longest numeric beginning (sign, digits, point, E exponent), to the
-// nearest integer, halves to the even one; 0 for text with none, at most 99999999.
+// Value of a text of DEZ: by its longest numeric beginning (sign, digits, point, E exponent), to
+// the nearest integer, halves to the even one; 0 for text with none, at most 99999999.
 std::int32_t Dez_Wert(std::string_view Text);
 
 } // namespace varnholt

@@ -63,8 +63,8 @@ std::size_t Zeilen_Anfang(std::string_view Text, int Zeile)
 
 Text_Bereich Fehler_Bereich(std::string_view Text, int Zeile)
 {
-    std::size_t i = Zeilen_Anfang(Text, std::min(Zeile, Letzte_Zeile(Text)));
-    i = std::min(Text.find_first_not_of(" \t\n", i), Text.size());
+    std::size_t i     = Zeilen_Anfang(Text, std::min(Zeile, Letzte_Zeile(Text)));
+    i                 = std::min(Text.find_first_not_of(" \t\n", i), Text.size());
     std::size_t Ende  = i;
     bool        Zitat = false;
     for (std::size_t k = i; k < Text.size() && Text[k] != '\r'; ++k) {
@@ -82,8 +82,8 @@ void Fehlermeldung_Zeigen()
     const bool Gesperrt = Text_Sperre;
     Text_Sperre         = true;
     Include_Zeile_Waehlen();
-    const std::string Text   = Plattform.Edit->Text();
-    Fehler_Zeile             = std::min(Editor_Zeile(), Letzte_Zeile(Text));
+    const std::string Text    = Plattform.Edit->Text();
+    Fehler_Zeile              = std::min(Editor_Zeile(), Letzte_Zeile(Text));
     const Text_Bereich Stelle = Fehler_Bereich(Text, Fehler_Zeile);
     Plattform.Edit->Auswaehlen(static_cast<std::int64_t>(Text.size()), 0); // scrolls the view
     Plattform.Edit->Auswaehlen(Stelle.Anfang, Stelle.Laenge);

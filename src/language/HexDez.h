@@ -31,8 +31,9 @@ constexpr std::int32_t Hex_zu_Wert(std::string_view Text)
 static_assert(Hex_zu_Wert("1H2") == 0x12 && Hex_zu_Wert("h") == 0 && Hex_zu_Wert("g") == -1);
 static_assert(Hex_zu_Wert("FFFFFFFFFFFFFFFFFFFF") == Hex_Obergrenze);
 
-// Value of a digit pair, looking at the first and the last character only; a blank in the last place
-// leaves the first alone. -1 on any other character, lower case included, and for the empty text.
+// Value of a digit pair, looking at the first and the last character only; a blank in the last
+// place leaves the first alone. -1 on any other character, lower case included, and for the empty
+// text.
 constexpr std::int32_t Hexpaar_zu_Wert(std::string_view Text)
 {
     const auto Ziffer = [](char c) {

@@ -16,8 +16,6 @@ namespace {
 
 constexpr std::int32_t Akku_Adresse = 0xE0;
 
-bool Beginnt(std::string_view Anfang) { return Lauf.Zeile_Gross.starts_with(Anfang); }
-
 void Byte_Pruefen(int Nr)
 {
     if (Wert_Anzahl >= Nr && (Wert_Nr(Nr) < 0 || Wert_Nr(Nr) > 0xFF))
@@ -64,12 +62,13 @@ bool Wort_Setzen(int Opcode)
 bool Ziel_Setzen(int Opcode, std::size_t k, int Laenge)
 {
     Setzen(Opcode);
-    Diese_Zeile().Offen = Lauf.Zeile_Gross.substr(k);
+    Diese_Zeile().Offen = Assembler.Ziel_Texte.Ablegen(Form_Jetzt().substr(k));
     Befehls_Laenge      = Laenge;
     return true;
 }
 
-// An address in brackets or `$` as last operand, value Nr: becomes the offset from this instruction.
+// An address in brackets or `$` as last operand, value Nr: becomes the offset from this
+// instruction.
 void Adresse_Zu_Weite(int Nr, int Laenge)
 {
     std::string& Form = Lauf.Zeile_Gross;
@@ -83,9 +82,9 @@ bool Akku_Stapel()
 {
     if (Wert_Anzahl != 0)
         return false;
-    if (Lauf.Zeile_Gross == "PUSHA")
+    if (Form_Jetzt() == "PUSHA")
         return Setzen(0xC0, Akku_Adresse);
-    return Lauf.Zeile_Gross == "POPA" && Setzen(0xD0, Akku_Adresse);
+    return Form_Jetzt() == "POPA" && Setzen(0xD0, Akku_Adresse);
 }
 
 bool Sprung_Nach_Zahl()
@@ -104,8 +103,8 @@ bool Verzweigung_Mit_Zahl()
     if (Wert_Anzahl != 2)
         return false;
     Adresse_Zu_Weite(2, 3);
-    const bool Ist_CJNE = Beginnt("CJNE");
-    const int  Opcode   = Ist_CJNE || Beginnt("J") || Beginnt("DJNZ,")
+    const bool Ist_CJNE = Form_Beginnt("CJNE");
+    const int  Opcode   = Ist_CJNE || Form_Beginnt("J") || Form_Beginnt("DJNZ,")
                               ? Vergleichs_Form_Suchen(Lauf.Zeile_Gross)
                               : -1;
     const bool Treffer  = Opcode >= 0 && Befehl_Laenge(static_cast<std::uint8_t>(Opcode)) == 3;
@@ -125,7 +124,7 @@ bool MOV_DPTR()
         return false;
     if (Wert_Anzahl == 0)
         return Ziel_Setzen(0x90, Anfang.size(), 3);
-    if (Form == "MOVDPTR,#()" || Form == Anfang)
+    if (Form_Jetzt() == "MOVDPTR,#()" || Form_Jetzt() == Anfang)
         return Wort_Setzen(0x90);
     const char Vorzeichen = Form.back();
     if (Vorzeichen != '+' && Vorzeichen != '-')
@@ -156,7 +155,8 @@ constexpr std::string_view Einzelne_Formen[] = {
 };
 // clang-format on
 
-// A two-byte form, its operand the first value; without a value on the line that of the line before.
+// A two-byte form, its operand the first value; without a value on the line that of the line
+// before.
 bool Zwei_Byte_Form()
 {
     const int Opcode = Vergleichs_Form_Suchen(Lauf.Zeile_Gross);
@@ -169,7 +169,7 @@ bool Zwei_Byte_Form()
 template <std::size_t n> bool Zwei_Byte_Gruppe(const Gruppen_Anfang (&Gruppen)[n])
 {
     for (const Gruppen_Anfang& g : Gruppen)
-        if (Beginnt(g.Anfang)) {
+        if (Form_Beginnt(g.Anfang)) {
             Byte_Pruefen(1);
             return Zwei_Byte_Form();
         }
@@ -178,16 +178,15 @@ template <std::size_t n> bool Zwei_Byte_Gruppe(const Gruppen_Anfang (&Gruppen)[n
 
 bool Einzelne_Form()
 {
-    return std::find(std::begin(Einzelne_Formen), std::end(Einzelne_Formen), Lauf.Zeile_Gross) !=
-               std::end(Einzelne_Formen) &&
-           Zwei_Byte_Form();
+    const auto Ende = std::end(Einzelne_Formen);
+    return std::find(std::begin(Einzelne_Formen), Ende, Form_Jetzt()) != Ende && Zwei_Byte_Form();
 }
 
 // Page and low byte, as the disassembler writes them. AJMP takes every page above 7 as page 7.
 bool Seiten_Sprung()
 {
-    const bool Ist_Aufruf = Lauf.Zeile_Gross == "ACALL,";
-    if (Wert_Anzahl != 2 || (!Ist_Aufruf && Lauf.Zeile_Gross != "AJMP,"))
+    const bool Ist_Aufruf = Form_Jetzt() == "ACALL,";
+    if (Wert_Anzahl != 2 || (!Ist_Aufruf && Form_Jetzt() != "AJMP,"))
         return false;
     Byte_Pruefen(1);
     Byte_Pruefen(2);
@@ -222,8 +221,9 @@ constexpr Ziel_Form Vergleich_Sprung_Formen[] = {
 
 template <std::size_t n> const Ziel_Form* Ziel_Form_Suchen(const Ziel_Form (&Formen)[n])
 {
-    const auto f = std::find_if(std::begin(Formen), std::end(Formen),
-                                [](const Ziel_Form& z) { return Beginnt(z.Anfang); });
+    const auto f = std::find_if(std::begin(Formen), std::end(Formen), [](const Ziel_Form& z) {
+        return Form_Beginnt(z.Anfang);
+    });
     return f == std::end(Formen) ? nullptr : &*f;
 }
 
@@ -239,9 +239,9 @@ bool Sprung_Nach_Marke()
 bool Verzweigung_Nach_Marke()
 {
     constexpr std::string_view Akku = "DJNZA,";
-    if (Beginnt("CJNE"))
+    if (Form_Beginnt("CJNE"))
         Byte_Pruefen(1);
-    if (Beginnt(Akku)) {
+    if (Form_Beginnt(Akku)) {
         Setzen(0xD5, Akku_Adresse);
         return Ziel_Setzen(0xD5, Akku.size(), 3);
     }
@@ -256,8 +256,8 @@ bool Verzweigung_Nach_Marke()
 // ORL, ANL, XRL and MOV of a constant to a direct address, and MOV direct, direct.
 bool Drei_Byte_Form()
 {
-    const std::string_view Form = Lauf.Zeile_Gross;
-    const bool Ist_MOV = Form == "MOV,";
+    const std::string_view Form    = Lauf.Zeile_Gross;
+    const bool             Ist_MOV = Form == "MOV,";
     if (Wert_Anzahl != 2 ||
         (!Ist_MOV && Form != "ORL,#" && Form != "ANL,#" && Form != "XRL,#" && Form != "MOV,#"))
         return false;
@@ -305,6 +305,16 @@ constexpr Fehler_Marke Fehler_Marken[] = {
 };
 // clang-format on
 
+// An included file is what its first row is: a file that begins with an INCLUDE is what that
+// brought.
+bool Hat_Prozessorfile()
+{
+    return std::any_of(Include_Liste.begin(), Include_Liste.end(), [](const Include_Eintrag& e) {
+        return Quell_Zeilen[static_cast<std::size_t>(e.Erste_Zeile)].Herkunft ==
+               Herkunft_Prozessorfile;
+    });
+}
+
 } // namespace
 
 bool Fixe_Form_Versuchen()
@@ -324,9 +334,9 @@ bool Form_Versuchen()
 void Unbekannte_Zeile_Melden()
 {
     for (const Fehler_Marke& f : Fehler_Marken)
-        if (Lauf.Zeile_Gross == f.Marke)
+        if (Form_Jetzt() == f.Marke)
             Fehler(f.D, f.E);
-    if (!Lauf.Prozessorfile)
+    if (!Hat_Prozessorfile())
         Fehler("Bitte benutzen Sie im Programm die INCLUDE Anweisung, um den Prozessortyp "
                "festzulegen. Beispiel: Include 8051.mc",
                "Please use in the program the INCLUDE instruction to declare the processor. "

@@ -24,7 +24,8 @@ void Anfuegen(std::string Text, Listen_Zeile::Art_T Art)
 
 std::uint8_t Byte_An(std::int32_t Adresse)
 {
-    return Adresse >= 0 && Adresse <= Bild_Groesse ? Hex_Daten[static_cast<std::size_t>(Adresse)] : 0xFF;
+    return Adresse >= 0 && Adresse <= Bild_Groesse ? Hex_Daten[static_cast<std::size_t>(Adresse)]
+                                                   : 0xFF;
 }
 
 // The three byte columns of a row, joined.
@@ -34,8 +35,8 @@ std::string Spalten(const Listen_Zeile& z)
         return "DATA  ";
     if (z.Art == Listen_Zeile::Definition)
         return "DEF   ";
-    const bool Mit_Bytes = z.Art == Listen_Zeile::Code && !z.Ohne_Bytes;
-    const int  Laenge    = Mit_Bytes ? Befehl_Laenge(Byte_An(z.Adresse)) : 0;
+    const bool  Mit_Bytes = z.Art == Listen_Zeile::Code && !z.Ohne_Bytes;
+    const int   Laenge    = Mit_Bytes ? Befehl_Laenge(Byte_An(z.Adresse)) : 0;
     std::string s;
     for (int i = 0; i < 3; ++i)
         s += i < Laenge ? fmt::format("{:02X} ", Byte_An(z.Adresse + i)) : std::string("   ");
@@ -48,9 +49,9 @@ void Listen_Zeile_Aufnehmen()
 {
     if (!C_Erstelle_Listfile)
         return;
-    const Quell_Zeile& Zeile    = Diese_Zeile();
-    const bool         Nach_Code = Lauf.Listen_Zeilen.empty() ||
-                           Lauf.Listen_Zeilen.back().Art == Listen_Zeile::Code;
+    const Quell_Zeile& Zeile = Diese_Zeile();
+    const bool         Nach_Code =
+        Lauf.Listen_Zeilen.empty() || Lauf.Listen_Zeilen.back().Art == Listen_Zeile::Code;
     if (Nach_Code && !Zeile.Marke.empty())
         Anfuegen(std::string(Zeile.Marke.Ansicht()), Listen_Zeile::Marke);
     if (!Zeile.Text.empty())
@@ -81,8 +82,12 @@ std::string Listen_Text()
     std::string Text;
     int         Nummer = 0;
     for (const Listen_Zeile& z : Lauf.Listen_Zeilen)
-        fmt::format_to(std::back_inserter(Text), "{:>5}   {:04X}\t{}   \t{}\r\n",
-                       fmt::format(" {}", Nummer++), z.Adresse, Spalten(z), z.Text);
+        fmt::format_to(std::back_inserter(Text),
+                       "{:>5}   {:04X}\t{}   \t{}\r\n",
+                       fmt::format(" {}", Nummer++),
+                       z.Adresse,
+                       Spalten(z),
+                       z.Text);
     return Text;
 }
 

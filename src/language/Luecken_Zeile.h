@@ -1,5 +1,5 @@
-// A line with a gap, from which pieces are cut while a walk goes over it: each cut costs the distance
-// from the last one and not the length of the line.
+// A line with a gap, from which pieces are cut while a walk goes over it: each cut costs the
+// distance from the last one and not the length of the line.
 #pragma once
 
 #include <algorithm>

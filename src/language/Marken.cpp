@@ -17,6 +17,8 @@ constexpr std::string_view Daten_Koepfe[] = {"ASC:", "HEX:", "DEZ:", "DB:", "DW:
 
 bool Ist_Datenzeile(std::string_view Text)
 {
+    if (Text.size() < 3 || (Text[2] != ':' && Text.substr(0, 4).back() != ':'))
+        return false;
     for (const std::string_view Kopf : Daten_Koepfe)
         if (Beginnt_Ohne_Fall(Text, Kopf))
             return true;
@@ -47,7 +49,10 @@ std::size_t Doppelpunkt_Suchen(std::string_view Text)
     return std::string_view::npos;
 }
 
-std::string_view Ohne_Doppelpunkt(std::string_view Marke) { return Marke.substr(0, Marke.size() - 1); }
+std::string_view Ohne_Doppelpunkt(std::string_view Marke)
+{
+    return Marke.substr(0, Marke.size() - 1);
+}
 
 // An included file may bring a label for a row that had one: the earlier one is gone.
 void Alte_Marke_Vergessen(std::string_view Marke)
@@ -73,10 +78,7 @@ void Marke_Eintragen(Quell_Stueck Marke)
                "every jump mark a different name to prevent confusion!");
 }
 
-[[noreturn]] void Ziel_Fehlt()
-{
-    Fehler("Sprungadresse nicht gefunden !", "Jumpmark not found !");
-}
+[[noreturn]] void Ziel_Fehlt() { Fehler("Sprungadresse nicht gefunden !", "Jumpmark not found !"); }
 
 // Address of the row that carries the label, with or without its colon.
 std::int32_t Marken_Adresse(std::string_view Ziel)
@@ -94,8 +96,7 @@ std::int32_t Marken_Adresse(std::string_view Ziel)
 // The value in brackets that the operand scan could not read, always hexadecimal.
 std::int32_t Klammer_Adresse(std::string_view Ziel)
 {
-    const std::int32_t Wert =
-        Ziel.size() < 2 ? -1 : Hex_zu_Wert(Ziel.substr(1, Ziel.size() - 2));
+    const std::int32_t Wert = Ziel.size() < 2 ? -1 : Hex_zu_Wert(Ziel.substr(1, Ziel.size() - 2));
     if (Wert < 0)
         Fehler("Fehlerhafte Sprungadresse !", "Error in Jumpmark !");
     return Wert;
@@ -140,8 +141,8 @@ void Lange_Zeile(Quell_Zeile& Zeile)
     const bool         Wort   = Opcode == 0x02 || Opcode == 0x12 || Opcode == 0x90;
     if (!Wort && Opcode != 0x01 && Opcode != 0x11)
         return;
-    const std::string Ziel = std::move(Zeile.Offen);
-    Zeile.Offen.clear();
+    const std::string_view Ziel = Zeile.Offen;
+    Zeile.Offen.Leeren();
     if (Wort)
         Wort_Einsetzen(Zeile, Ziel);
     else
@@ -155,8 +156,15 @@ int Sprung_Laenge(std::string_view Text, std::uint8_t Opcode)
         std::string_view Anfang;
         int              Laenge;
     };
-    constexpr Mnemonik Mnemonike[] = {{"CJNE", 3}, {"SJMP", 2}, {"JZ", 2},   {"JNZ", 2}, {"JC", 2},
-                                      {"JNC", 2},  {"JB ", 3},  {"JNB ", 3}, {"JBC ", 3}};
+    constexpr Mnemonik Mnemonike[] = {{"CJNE", 3},
+                                      {"SJMP", 2},
+                                      {"JZ", 2},
+                                      {"JNZ", 2},
+                                      {"JC", 2},
+                                      {"JNC", 2},
+                                      {"JB ", 3},
+                                      {"JNB ", 3},
+                                      {"JBC ", 3}};
     if (Beginnt_Ohne_Fall(Text, "DJNZ"))
         return Opcode == 0xD5 ? 3 : 2;
     for (const Mnemonik& m : Mnemonike)
@@ -174,8 +182,9 @@ void Kurze_Zeile(const Quell_Zeile& Zeile)
     if (d > 129 || d < -126)
         Fehler("Sprungziel liegt außerhalb des -128/+127 Byte Rahmen!",
                "Jump-target is out of -128/+127 Byte frame!");
-    const std::uint8_t Opcode = Im_Bild(Zeile.Adresse) ? Hex_Daten[static_cast<std::size_t>(Zeile.Adresse)] : 0;
-    const int          Laenge = Sprung_Laenge(Zeile.Text, Opcode);
+    const std::uint8_t Opcode =
+        Im_Bild(Zeile.Adresse) ? Hex_Daten[static_cast<std::size_t>(Zeile.Adresse)] : 0;
+    const int Laenge = Sprung_Laenge(Zeile.Text, Opcode);
     if (Laenge > 0)
         Byte_Setzen(Zeile.Adresse + Laenge - 1, d - Laenge);
 }
@@ -184,7 +193,8 @@ void Kurze_Zeile(const Quell_Zeile& Zeile)
 // a one-line IF with a label of its own is a target at its instruction then.
 template <class Arbeit_T> void Offene_Zeilen(int Letzte, Arbeit_T Arbeit)
 {
-    for (Zeilen_Index = 0; Zeilen_Index <= Letzte && Zeilen_Index < Zeilen_Anzahl(); ++Zeilen_Index) {
+    for (Zeilen_Index = 0; Zeilen_Index <= Letzte && Zeilen_Index < Zeilen_Anzahl();
+         ++Zeilen_Index) {
         Quell_Zeile& Zeile = Diese_Zeile();
         if (Zeile.Offen.empty())
             continue;

@@ -9,7 +9,8 @@ namespace varnholt {
 // reads: Diese_Zeile().Text   sets: Marke, Text, Marken; ends the run on a doubled or malformed one
 void Marke_Abtrennen();
 
-// Stores a 16-bit jump target, the high byte at Adresse; one that has no room in 16 bits is an error.
+// Stores a 16-bit jump target, the high byte at Adresse; one that has no room in 16 bits is an
+// error.
 void Sprungziel_Setzen(std::int32_t Adresse, std::int32_t Ziel);
 
 // Fills the open targets of rows 0 to Letzte: first 16-bit and page targets, then relative ones.

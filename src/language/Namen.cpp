@@ -120,7 +120,8 @@ std::int32_t Name_Suchen(std::string_view Zeile, std::size_t Anfang, int& Laenge
 {
     std::string_view Kandidat = Zeile.substr(Anfang, static_cast<std::size_t>(Laenge));
     int              Bit      = -1;
-    if (Kandidat.size() > 1 && Kandidat[Kandidat.size() - 2] == '.' && Ist_Ziffer(Kandidat.back())) {
+    if (Kandidat.size() > 1 && Kandidat[Kandidat.size() - 2] == '.' &&
+        Ist_Ziffer(Kandidat.back())) {
         Bit = Kandidat.back() - '0';
         Kandidat.remove_suffix(2);
         Laenge -= 2;
@@ -137,7 +138,7 @@ std::int32_t Name_Suchen(std::string_view Zeile, std::size_t Anfang, int& Laenge
     if (Kandidat == "A" && Bit >= 0 && Bit <= 7) {
         Laenge += 2;
         (Name_Eins == -1 ? Bit_Eins : Bit_Zwei) = true;
-        Ergebnis = Akku_Adresse + Bit;
+        Ergebnis                                = Akku_Adresse + Bit;
     }
     return Ergebnis;
 }
@@ -162,7 +163,8 @@ void Const_Eintragen()
     if (Gleich == std::string::npos)
         return;
     const std::string Name(Gleich > 6 ? Text.substr(6, Gleich - 6) : std::string_view{});
-    Name_Anfuegen({Name, 0, std::string(Text.substr(Gleich + 1)), 0, Name_Einfach, Diese_Zeile().Herkunft});
+    Name_Anfuegen(
+        {Name, 0, std::string(Text.substr(Gleich + 1)), 0, Name_Einfach, Diese_Zeile().Herkunft});
 }
 
 void Namensart_Pruefen()

@@ -18,12 +18,12 @@ inline constexpr int Name_Bit     = 1; // bit address
 inline constexpr int Name_Byte    = 8; // byte address
 
 struct Namen_Eintrag {
-    std::string  Name{};         // upper case without blanks; for CONST as typed
-    std::int32_t Wert = 0;       // value; unused for CONST
-    std::string  Const_Text{};   // the unconverted value of a CONST
-    int          Laenge   = 0;   // length of Name; 0 for CONST, which the search never finds
-    int          Art      = 0;   // Name_Einfach, Name_Bit or Name_Byte
-    int          Herkunft = 0;   // of the defining row; 0 for the PORTn entries
+    std::string  Name{};       // upper case without blanks; for CONST as typed
+    std::int32_t Wert = 0;     // value; unused for CONST
+    std::string  Const_Text{}; // the unconverted value of a CONST
+    int          Laenge   = 0; // length of Name; 0 for CONST, which the search never finds
+    int          Art      = 0; // Name_Einfach, Name_Bit or Name_Byte
+    int          Herkunft = 0; // of the defining row; 0 for the PORTn entries
 };
 
 // Hash with look-up by view.
@@ -49,7 +49,8 @@ int Namen_Index(std::string_view Name);
 void Name_Anfuegen(Namen_Eintrag Eintrag);
 
 // Value of a name with an optional suffix `.n` (a bit of it); -1 when there is none. Laenge loses 2
-// for a suffix that was cut, and gets them back on a hit. Sets Name_Eins, Name_Zwei, Bit_Eins, Bit_Zwei.
+// for a suffix that was cut, and gets them back on a hit. Sets Name_Eins, Name_Zwei, Bit_Eins,
+// Bit_Zwei.
 std::int32_t Name_Suchen(std::string_view Zeile, std::size_t Anfang, int& Laenge);
 
 // A definition line (`NAMEEQU`, `NAMEBIT`, `NAMEDATA`): enters it and answers true.

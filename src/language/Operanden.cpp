@@ -30,11 +30,8 @@ constexpr Sprung_Befehl Sprung_Befehle[] = {
 
 int Sprungoperand_Finden(std::string_view Zeile)
 {
-    constexpr std::string_view Erste = "JCDLAS"; // first characters of the table
-    if (Erste.find(Zeile.front()) == std::string_view::npos)
-        return Kein_Sprungoperand;
     for (const Sprung_Befehl& b : Sprung_Befehle)
-        if (Zeile.starts_with(b.Anfang))
+        if (Zeile.starts_with(b.Anfang.front()) && Zeile.starts_with(b.Anfang))
             return b.Sprungoperand;
     return Kein_Sprungoperand;
 }
@@ -44,7 +41,7 @@ enum Zeichen_Art : std::uint8_t { Oeffnet = 1, Schliesst = 2, Trennt = 4, Rechne
 
 constexpr std::array<std::uint8_t, 256> Zeichen_Arten = [] {
     std::array<std::uint8_t, 256> t{};
-    const auto Setzen = [&t](std::string_view Menge, std::uint8_t Art) {
+    const auto                    Setzen = [&t](std::string_view Menge, std::uint8_t Art) {
         for (const char c : Menge) {
             std::uint8_t& Feld = t[static_cast<std::uint8_t>(c)];
             Feld               = static_cast<std::uint8_t>(Feld | Art);
@@ -77,11 +74,16 @@ std::int32_t Verknuepfen(char Operator, std::int32_t Links, std::int32_t Rechts)
     const double a = Links;
     const double b = Rechts;
     switch (Operator) {
-    case '+': return In_Grenzen(a + b);
-    case '-': return In_Grenzen(a - b);
-    case '*': return In_Grenzen(a * b);
-    case '/': return Rechts == 0 ? (Meldung_Zu_Hoch(), 0) : In_Grenzen(std::nearbyint(a / b));
-    default: return In_Grenzen(std::nearbyint(std::pow(a, b)));
+    case '+':
+        return In_Grenzen(a + b);
+    case '-':
+        return In_Grenzen(a - b);
+    case '*':
+        return In_Grenzen(a * b);
+    case '/':
+        return Rechts == 0 ? (Meldung_Zu_Hoch(), 0) : In_Grenzen(std::nearbyint(a / b));
+    default:
+        return In_Grenzen(std::nearbyint(std::pow(a, b)));
     }
 }
 
@@ -190,7 +192,8 @@ private:
         constexpr std::string_view Then = "THEN";
         for (; !Then_Gesehen && Then_Stelle + 4 < Start; ++Then_Stelle)
             Then_Gesehen = Zeichen(Then_Stelle) == Then[0] && Zeichen(Then_Stelle + 1) == Then[1] &&
-                           Zeichen(Then_Stelle + 2) == Then[2] && Zeichen(Then_Stelle + 3) == Then[3];
+                           Zeichen(Then_Stelle + 2) == Then[2] &&
+                           Zeichen(Then_Stelle + 3) == Then[3];
         return Then_Gesehen;
     }
 
@@ -240,7 +243,7 @@ private:
             if (Wert_Anzahl >= Werte_Hoechstens)
                 Fehler("Zuviele ASCII-Zeichen in einer Zeile !",
                        "Too much ASCII-signs in one line !");
-            const char c = Rein.Zeichen(static_cast<std::size_t>(Schluss - 1));
+            const char c           = Rein.Zeichen(static_cast<std::size_t>(Schluss - 1));
             Wert_Nr(++Wert_Anzahl) = static_cast<std::uint8_t>(c);
         }
         Ersetzen(Start, Schluss - Start + 1, "");
@@ -249,9 +252,7 @@ private:
     // A name's or a number's value, -1 without one. Leaves in Laenge what is to be cut.
     std::int32_t Wert_Lesen()
     {
-        if (const std::int32_t Wert =
-                Name_Suchen(Token(), 0, Laenge);
-            Wert != -1)
+        if (const std::int32_t Wert = Name_Suchen(Token(), 0, Laenge); Wert != -1)
             return Wert;
         if (Token() == "$") {
             Ersetzen(Start, 1, "()");
@@ -267,16 +268,15 @@ private:
         return Zahl.Wert;
     }
 
+    // A value that joins the last one counts as one of its own for a moment.
     void Wert_Ablegen(std::int32_t Wert)
     {
-        if (Verknuepft) {
-            std::int32_t& Letzter = Wert_Nr(Wert_Anzahl);
-            Letzter               = Verknuepfen(Operator, Letzter, Wert);
-            return;
-        }
         if (Wert_Anzahl >= Werte_Hoechstens)
             Fehler("Zuviele Zahlenangaben in einer Zeile !", "Too much values in one line !");
-        Wert_Nr(++Wert_Anzahl) = Wert;
+        if (Verknuepft)
+            Wert_Nr(Wert_Anzahl) = Verknuepfen(Operator, Wert_Nr(Wert_Anzahl), Wert);
+        else
+            Wert_Nr(++Wert_Anzahl) = Wert;
     }
 
     Luecken_Zeile Zeile{Lauf.Zeile_Gross};
@@ -292,8 +292,8 @@ private:
     int  Then_Stelle  = 1;
     bool Then_Gesehen = false;
     bool Zitat        = false;
-    bool Verknuepft = false; // the next value joins the last one by Operator
-    char Operator   = '+';
+    bool Verknuepft   = false; // the next value joins the last one by Operator
+    char Operator     = '+';
 };
 
 } // namespace

@@ -1,5 +1,5 @@
-// Macros work on the raw text, included files on the rows of the preparing sweep, #IF on the rows of
-// the emitting sweep.
+// Macros work on the raw text, included files on the rows of the preparing sweep, #IF on the rows
+// of the emitting sweep.
 #include "language/Praeprozessor.h"
 
 #include "core/codepage.h"
@@ -24,10 +24,13 @@ constexpr std::string_view Anfang_Wort = "#DEFINE";
 constexpr std::string_view Ende_Wort   = "#END DEF";
 constexpr std::size_t      Nirgends    = std::string::npos;
 // An expansion beyond this many characters is one that doesn't come to an end.
-constexpr std::size_t      Text_Hoechstens    = std::size_t{64} << 20;
-constexpr std::uintmax_t   Include_Hoechstens = std::uintmax_t{16} << 20; // bytes of one file
+constexpr std::size_t    Text_Hoechstens    = std::size_t{64} << 20;
+constexpr std::uintmax_t Include_Hoechstens = std::uintmax_t{16} << 20; // bytes of one file
 
-[[noreturn]] void Ohne_End_Def() { Fehler("#define ohne #end def !", "#define without #end def !"); }
+[[noreturn]] void Ohne_End_Def()
+{
+    Fehler("#define ohne #end def !", "#define without #end def !");
+}
 
 [[noreturn]] void Eigener_Name()
 {
@@ -85,17 +88,20 @@ void Zeichen_Wegnehmen(std::string& Text, std::size_t& Anzahl)
     Anzahl -= n;
 }
 
-// The text from Ab on with the body in every place of the name; two characters go on each side, those
-// ahead of the first place from Davor if need be.
-std::string Rumpf_Einsetzen(std::string& Davor, const std::string& Text,
-                            const std::string& Text_Gross, const Makro& m)
+// The text from Ab on with the body in every place of the name; two characters go on each side,
+// those ahead of the first place from Davor if need be.
+std::string Rumpf_Einsetzen(std::string&       Davor,
+                            const std::string& Text,
+                            const std::string& Text_Gross,
+                            const Makro&       m)
 {
     const std::string Rumpf = std::string(CRLF) + m.Rumpf + std::string(CRLF);
     // From the body's second character on the name would be found again and again.
     const bool  Endlos = Gross(m.Rumpf).find(m.Name, 1) != Nirgends;
     std::string Neu;
     std::size_t Ab = m.Danach;
-    for (std::size_t q = Text_Gross.find(m.Name, Ab); q != Nirgends; q = Text_Gross.find(m.Name, Ab)) {
+    for (std::size_t q = Text_Gross.find(m.Name, Ab); q != Nirgends;
+         q             = Text_Gross.find(m.Name, Ab)) {
         Neu.append(Text, Ab, q - Ab);
         if (Endlos || Davor.size() + Neu.size() + Rumpf.size() > Text_Hoechstens)
             Eigener_Name();
@@ -142,11 +148,11 @@ Fund Datei_Finden(std::string_view Name)
 [[noreturn]] void Datei_Fehlt(int Herkunft)
 {
     if (Herkunft == Herkunft_Prozessorfile)
-        Fehler("Das einzubindene Prozessorfile konnte nicht gefunden werden! Bitte wählen Sie einen "
-               "der Typen aus dem nachfolgendem Dialog.",
-               std::string(Text_Prozessorfile_Fehlt));
-    Fehler("Die einzubindende Datei konnte nicht gefunden werden!",
-           std::string(Text_Include_Fehlt));
+        Fehler(
+            "Das einzubindene Prozessorfile konnte nicht gefunden werden! Bitte wählen Sie einen "
+            "der Typen aus dem nachfolgendem Dialog.",
+            std::string(Text_Prozessorfile_Fehlt));
+    Fehler("Die einzubindene Datei konnte nicht gefunden werden!", std::string(Text_Include_Fehlt));
 }
 
 // Rows of a text with CR LF ends; a text without any counts as one empty line.
@@ -239,14 +245,13 @@ void Include_Lesen()
     std::vector<Quell_Zeile> Zeilen = In_Zeilen(Text, f.Herkunft);
     Include_Liste.push_back({Zeilen_Index, static_cast<int>(Zeilen.size())});
     Zeilen_Einsetzen(std::move(Zeilen));
-    Lauf.Prozessorfile = Lauf.Prozessorfile || f.Herkunft == Herkunft_Prozessorfile;
     --Zeilen_Index;
 }
 
 bool Bedingung_Versuchen()
 {
-    const bool Nicht = Lauf.Zeile_Gross == "#IF NOT DEBUGGING";
-    if (!Nicht && Lauf.Zeile_Gross != "#IF DEBUGGING")
+    const bool Nicht = Form_Jetzt() == "#IF NOT DEBUGGING";
+    if (!Nicht && Form_Jetzt() != "#IF DEBUGGING")
         return false;
     const bool Erfuellt = Debugger_Aktiv != Nicht;
     if (Erfuellt && Lauf.Ohne_Ende_IF)

@@ -19,7 +19,8 @@ void Include_Lesen();
 bool Ist_Include();
 
 // #IF DEBUGGING and #IF NOT DEBUGGING.   True: the row in work is done.
-// reads: Zeile_Gross, Debugger_Aktiv   sets: Text and Adresse of the rows of a false block, Zeilen_Index
+// reads: Zeile_Gross, Debugger_Aktiv   sets: Text and Adresse of the rows of a false block,
+// Zeilen_Index
 bool Bedingung_Versuchen();
 
 } // namespace varnholt

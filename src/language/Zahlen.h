@@ -9,13 +9,14 @@
 
 namespace varnholt {
 
-inline constexpr std::int32_t Zahl_Obergrenze = 99999999; // largest decimal or marked hexadecimal number
-inline constexpr std::size_t  Binaer_Stellen  = 31;       // most digits of a binary number
+inline constexpr std::int32_t Zahl_Obergrenze =
+    99999999;                                     // largest decimal or marked hexadecimal number
+inline constexpr std::size_t Binaer_Stellen = 31; // most digits of a binary number
 
 // What a token that is neither text nor name says.
 struct Zahl_Ergebnis {
     enum Art_T { Kein_Wert, Wert_Da, Zu_Hoch, Binaer_Falsch } Art = Kein_Wert;
-    std::int32_t Wert = -1; // only with Wert_Da
+    std::int32_t Wert                                             = -1; // only with Wert_Da
 };
 
 namespace zahlen_intern {
@@ -98,7 +99,8 @@ static_assert(Zahl_Lesen("10B", false).Wert == 2 && Zahl_Lesen("10B", true).Wert
 static_assert(Zahl_Lesen("5D", false).Wert == 5 && Zahl_Lesen("$H", false).Wert == 0);
 
 // Offset byte of a jump from an instruction of that length at Adresse to Ziel; empty when out of
-// reach. The reach is that of a two-byte instruction for all: a three-byte one at distance -126 wraps.
+// reach. The reach is that of a two-byte instruction for all: a three-byte one at distance -126
+// wraps.
 constexpr std::optional<int> Relativ_Wert(std::int64_t Adresse, std::int64_t Ziel, int Laenge)
 {
     const std::int64_t d = Ziel - Adresse;

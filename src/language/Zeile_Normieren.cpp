@@ -53,34 +53,22 @@ void Rand_Abschneiden(Quell_Stueck& Text)
     Text.Vorn_Abnehmen(Anfang);
 }
 
-void Leerzeichen_Zusammenfassen(Quell_Stueck& Text)
+// Outside quotes one blank stays of a run of them, and none beside a comma; the line's first
+// character is left alone.
+void Leerzeichen_Wegnehmen(Quell_Stueck& Text)
 {
     bool        Zitat = false;
     std::size_t Ziel  = 1;
     for (std::size_t i = 1; i < Text.size(); ++i) {
-        const char c = Text[i];
+        const char c      = Text[i];
+        const char Vorige = Text[Ziel - 1];
         if (c == '"')
             Zitat = !Zitat;
-        if (!Zitat && c == ' ' && Text[Ziel - 1] == ' ' && Ziel > 1)
+        if (!Zitat && c == ' ' && Ziel > 1 && (Vorige == ' ' || Vorige == ','))
             continue;
+        if (!Zitat && c == ',' && Vorige == ' ')
+            --Ziel;
         Text[Ziel++] = c;
-    }
-    Text.Kuerzen_Auf(Ziel);
-}
-
-void Kommas_Freistellen(Quell_Stueck& Text)
-{
-    bool        Zitat = false;
-    std::size_t Ziel  = 1;
-    for (std::size_t i = 1; i < Text.size(); ++i) {
-        if (Text[i] == '"')
-            Zitat = !Zitat;
-        if (!Zitat && Text[i] == ' ' && i + 1 < Text.size() && Text[i + 1] == ',')
-            ++i;
-        const char c = Text[i];
-        Text[Ziel++] = c;
-        if (!Zitat && c == ',' && i + 1 < Text.size() && Text[i + 1] == ' ')
-            ++i;
     }
     Text.Kuerzen_Auf(Ziel);
 }
@@ -103,8 +91,7 @@ void Zeile_Normieren(Quell_Stueck& Text)
     Rand_Abschneiden(Text);
     if (!Hat_Freie_Leerzeichen(Text))
         return;
-    Leerzeichen_Zusammenfassen(Text);
-    Kommas_Freistellen(Text);
+    Leerzeichen_Wegnehmen(Text);
 }
 
 } // namespace varnholt

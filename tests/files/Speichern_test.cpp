@@ -167,11 +167,11 @@ protected:
 TEST_F(Quelle_Speichern_Welt, a_source_loaded_and_saved_is_the_same_to_the_byte)
 {
     for (const std::string& Bytes : {std::string("NOP\nRET\r\nEND"),
-                                    std::string("\xEF\xBB\xBF; \xC3\xA4\n"),
-                                    std::string("; \xE4\r"),
-                                    std::string("; \xE4\xB8\xAD\n"),
-                                    std::string("a\0b\n", 4),
-                                    std::string()}) {
+                                     std::string("\xEF\xBB\xBF; \xC3\xA4\n"),
+                                     std::string("; \xE4\r"),
+                                     std::string("; \xE4\xB8\xAD\n"),
+                                     std::string("a\0b\n", 4),
+                                     std::string()}) {
         Laden("a.asm", Bytes);
         EXPECT_EQ(Speichern("a.asm"), Bytes);
     }

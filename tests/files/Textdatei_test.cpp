@@ -238,6 +238,16 @@ TEST(Zeilenabgleich, gives_no_old_line_twice)
     const auto Zuordnung = Zeilen_Zuordnen({"x"}, {"x", "x"});
     EXPECT_EQ(Zuordnung, (std::vector<std::size_t>{0, Keine_Zeile}));
 }
+TEST(Zeilenabgleich, gives_no_old_line_twice_among_moved_ones)
+{
+    EXPECT_EQ(Zeilen_Zuordnen({"a", "x", "b"}, {"x", "c", "x"}),
+              (std::vector<std::size_t>{1, Keine_Zeile, Keine_Zeile}));
+}
+TEST(Zeilenabgleich, prefers_the_equal_line_beside_the_same_neighbours)
+{
+    EXPECT_EQ(Zeilen_Zuordnen({"K", "x", "A", "x", "B", "E"}, {"N", "A", "x", "B", "M"}),
+              (std::vector<std::size_t>{Keine_Zeile, 2, 3, 4, Keine_Zeile}));
+}
 TEST(Zeilenabgleich, finds_lines_between_changed_ones_by_those_that_stand_once)
 {
     const auto Zuordnung = Zeilen_Zuordnen({"a", "", "b", "", "c"}, {"X", "", "b", "", "Y"});

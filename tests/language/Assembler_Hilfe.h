@@ -22,16 +22,6 @@
 
 namespace varnholt::test {
 
-// What an unknown line gets: without a processor file in the program, and with one.
-inline const std::string Hinweis_D =
-    "Bitte benutzen Sie im Programm die INCLUDE Anweisung, um den Prozessortyp festzulegen. "
-    "Beispiel: Include 8051.mc";
-inline const std::string Hinweis_E =
-    "Please use in the program the INCLUDE instruction to declare the processor. "
-    "Example: Include 8051.mc";
-inline const std::string Unbekannt_D = "Befehl nicht erkannt !\r\n\r\n";
-inline const std::string Unbekannt_E = "Unknown instruction !\r\n\r\n";
-
 // Bytes of the image from Von up to, without, Bis, as pairs of upper-case digits: `24 12`.
 inline std::string Hex_Text(std::int32_t Von, std::int32_t Bis)
 {
@@ -54,6 +44,12 @@ inline std::string Mit_CRLF(std::string_view Text)
     for (const char c : Text)
         Neu += c == '\n' ? std::string{CRLF} : std::string(1, c);
     return Neu;
+}
+
+// The beginning of a text, for messages of failing tests.
+inline std::string Kurz(std::string_view Text)
+{
+    return std::string{Text.substr(0, 200)} + (Text.size() > 200 ? "..." : "");
 }
 
 // A folder of its own under the system's one for temporary files; gone with the object.
@@ -120,10 +116,10 @@ protected:
         const std::string Vorher = Sprache;
         for (const auto& [Kennung, Meldung] : {std::pair{"D", D}, std::pair{"E", E}}) {
             Sprache = Kennung;
-            EXPECT_EQ(Assembliere(Text), Meldung) << Text;
-            EXPECT_EQ(Assembler_Fehler, 1) << Text;
-            EXPECT_FALSE(Text_Aktuell) << Text;
-            EXPECT_EQ(Box.Meldungen.size(), 1U) << Text;
+            EXPECT_EQ(Kurz(Assembliere(Text)), Kurz(Meldung)) << Kurz(Text);
+            EXPECT_EQ(Assembler_Fehler, 1) << Kurz(Text);
+            EXPECT_FALSE(Text_Aktuell) << Kurz(Text);
+            EXPECT_EQ(Box.Meldungen.size(), 1U) << Kurz(Text);
         }
         Sprache = Vorher;
     }

@@ -160,8 +160,10 @@ inline std::vector<Tafel_Eintrag> Opcode_Tafel()
     std::vector<Tafel_Eintrag> Tafel;
     for (const Tafel_Zeile& z : Opcode_Zeilen)
         for (int i = 0; i < z.Anzahl; ++i)
-            Tafel.push_back({z.Opcode + i * z.Schritt, Ersetzt(z.Text, "*", std::to_string(i)),
-                             z.Laenge, z.Art});
+            Tafel.push_back({z.Opcode + i * z.Schritt,
+                             Ersetzt(z.Text, "*", std::to_string(i)),
+                             z.Laenge,
+                             z.Art});
     return Tafel;
 }
 

@@ -2,8 +2,8 @@
 #include "core/settings.h"
 #include "programmer/Aufzeichnung.h"
 #include "programmer/Brenner_Welt.h"
-#include "programmer/Port_direkt.h"
 #include "programmer/Brenner_Zustand.h"
+#include "programmer/Port_direkt.h"
 #include "programmer/Port_ppdev.h"
 #include "programmer/Special.h"
 
@@ -33,8 +33,9 @@ TEST_F(Aufzeichnung_Test, each_operation_is_a_line_and_is_handed_on)
     Recorder.Sleep(75);
     EXPECT_TRUE(Recorder.Abschliessen());
     EXPECT_EQ(Strom.str(), "W D 5A\nW C 0B\nR S 8F\nU 20\nM 75\n");
-    EXPECT_EQ(Port.Rufe, (std::vector<std::string>{"out 888 90", "out 890 11", "in 889", "waits 20",
-                                                   "sleep 75"}));
+    EXPECT_EQ(
+        Port.Rufe,
+        (std::vector<std::string>{"out 888 90", "out 890 11", "in 889", "waits 20", "sleep 75"}));
 }
 
 TEST_F(Aufzeichnung_Test, registers_are_named_by_their_distance_from_the_base)
@@ -103,13 +104,20 @@ Kern_T Kern;
 std::string Befehl_Name(unsigned long Nummer)
 {
     switch (Nummer) {
-    case PPCLAIM: return "claim";
-    case PPRELEASE: return "release";
-    case PPDATADIR: return "datadir";
-    case PPWDATA: return "data";
-    case PPWCONTROL: return "control";
-    case PPRSTATUS: return "status";
-    default: return "?";
+    case PPCLAIM:
+        return "claim";
+    case PPRELEASE:
+        return "release";
+    case PPDATADIR:
+        return "datadir";
+    case PPWDATA:
+        return "data";
+    case PPWCONTROL:
+        return "control";
+    case PPRSTATUS:
+        return "status";
+    default:
+        return "?";
     }
 }
 
@@ -159,8 +167,14 @@ TEST_F(Ppdev_Test, the_port_is_claimed_for_output_used_raw_and_released)
         EXPECT_EQ(Port.KS_inpb(889), 0x7F);
     }
     EXPECT_EQ(Kern.Rufe,
-              (std::vector<std::string>{"open /dev/parport0", "claim 5", "datadir 5 0", "data 5 90",
-                                        "control 5 11", "status 5", "release 5", "close 5"}));
+              (std::vector<std::string>{"open /dev/parport0",
+                                        "claim 5",
+                                        "datadir 5 0",
+                                        "data 5 90",
+                                        "control 5 11",
+                                        "status 5",
+                                        "release 5",
+                                        "close 5"}));
 }
 
 TEST_F(Ppdev_Test, a_missing_device_file_gives_an_error_with_text)
@@ -225,8 +239,15 @@ TEST_F(Ppdev_Test, opening_again_releases_the_first_claim)
     Port_ppdev Port("p", Griffe);
     Port.KS_openDriver();
     Port.KS_openDriver();
-    EXPECT_EQ(Kern.Rufe, (std::vector<std::string>{"open p", "claim 5", "datadir 5 0", "release 5",
-                                                   "close 5", "open p", "claim 5", "datadir 5 0"}));
+    EXPECT_EQ(Kern.Rufe,
+              (std::vector<std::string>{"open p",
+                                        "claim 5",
+                                        "datadir 5 0",
+                                        "release 5",
+                                        "close 5",
+                                        "open p",
+                                        "claim 5",
+                                        "datadir 5 0"}));
 }
 
 TEST_F(Ppdev_Test, its_clock_counts_forward_in_microseconds)

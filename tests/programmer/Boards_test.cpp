@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include <unistd.h>
+
 namespace varnholt::test {
 namespace {
 
@@ -26,16 +28,14 @@ protected:
     }
     std::string Gelesen() const
     {
-        std::ifstream     Strom(Datei, std::ios::binary);
+        std::ifstream     Quelle(Datei, std::ios::binary);
         std::stringstream Text;
-        Text << Strom.rdbuf();
+        Text << Quelle.rdbuf();
         return Text.str();
     }
 
-    fs::path Ordner = fs::temp_directory_path() /
-                      ("varnholt-boards-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                       ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::path                           Datei = Ordner / "chip.bin";
+    fs::path Ordner = fs::temp_directory_path() / ("varnholt-boards-" + std::to_string(getpid()));
+    fs::path Datei  = Ordner / "chip.bin";
     std::unique_ptr<Simuliertes_Board> Brett{};
 };
 
@@ -121,11 +121,14 @@ TEST_F(Boards_Test, a_lock_level_above_0_is_one_further_byte)
 
 TEST_F(Boards_Test, a_file_of_another_size_is_refused_in_both_languages)
 {
-    for (const std::size_t n : {std::size_t{0}, std::size_t{15}, std::size_t{18}, std::size_t{100000}}) {
+    for (const std::size_t n :
+         {std::size_t{0}, std::size_t{15}, std::size_t{18}, std::size_t{100000}}) {
         Schreiben(std::string(n, 'x'));
         const Text_Paar t = Sockel_Laden(*Brett, Datei);
-        EXPECT_EQ(t.D, Datei.string() + ": Die Datei hat nicht die Größe des Bausteins (16 Bytes).");
-        EXPECT_EQ(t.E, Datei.string() + ": The file doesn't have the size of the device (16 bytes).");
+        EXPECT_EQ(t.D,
+                  Datei.string() + ": Die Datei hat nicht die Größe des Bausteins (16 Bytes).");
+        EXPECT_EQ(t.E,
+                  Datei.string() + ": The file doesn't have the size of the device (16 bytes).");
     }
     EXPECT_EQ(Brett->Baustein()->Inhalt[0], 0xFF);
 }

@@ -104,8 +104,8 @@ Geraet_T& Brenner_Welt::Geraet(std::string_view Name,
 
 Simulierter_Eprommer& Brenner_Welt::Board_Anschliessen()
 {
-    Das_Board = Simuliertes_Board_Fuer(IC_Nummer);
-    Recorder  = std::make_unique<Aufzeichnung>(*Das_Board, Strom);
+    Das_Board      = Simuliertes_Board_Fuer(IC_Nummer);
+    Recorder       = std::make_unique<Aufzeichnung>(*Das_Board, Strom);
     Plattform.Port = Recorder.get();
     Porttreiber_Laden();
     return Board();

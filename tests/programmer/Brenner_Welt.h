@@ -44,8 +44,8 @@ public:
     std::vector<std::string> Rufe{};
 
 private:
-    std::int64_t Letzter_Stempel  = 0;
-    double       Letzte_Sekunden  = 0;
+    std::int64_t Letzter_Stempel = 0;
+    double       Letzte_Sekunden = 0;
 };
 
 class Brenner_Welt : public Welt {
@@ -56,7 +56,10 @@ protected:
                             std::string_view R_Typ,
                             std::string_view P_Typ);
     // The same name for all three.
-    static Geraet_T& Geraet(std::string_view Typ, std::int32_t Bytes) { return Geraet(Typ, Bytes, Typ, Typ); }
+    static Geraet_T& Geraet(std::string_view Typ, std::int32_t Bytes)
+    {
+        return Geraet(Typ, Bytes, Typ, Typ);
+    }
     // A board for the selected device behind a recorder, with the driver loaded.
     Simulierter_Eprommer& Board_Anschliessen();
     // The board that Board_Anschliessen made.
@@ -74,7 +77,8 @@ protected:
     // The image's first bytes become a fixed random sequence.
     static void Bild_Zufaellig(std::int32_t Bytes, std::uint32_t Saat = 1);
 
-    // Opens the dialog, without the read before, and presses `Brennen` after Aendern. Hex-Editor mode.
+    // Opens the dialog, without the read before, and presses `Brennen` after Aendern. Hex-Editor
+    // mode.
     static void Brennen(const std::function<void()>& Aendern = {});
 
 private:

@@ -39,7 +39,10 @@ protected:
             D(b, {91 + (Wert >> i & 1) * 128, 123 + (Wert >> i & 1) * 128});
         D(b, {27, 91});
     }
-    static std::vector<std::uint8_t>& Zellen(Simulierter_Eprommer& b) { return b.Baustein()->Inhalt; }
+    static std::vector<std::uint8_t>& Zellen(Simulierter_Eprommer& b)
+    {
+        return b.Baustein()->Inhalt;
+    }
 
     std::unique_ptr<Simuliertes_Board> Brett{};
 };
@@ -97,7 +100,8 @@ TEST_F(Eprommer_Test, the_multiplexer_shows_even_bits_with_D7_at_0_and_odd_ones_
         D(b, {155});
         const int Ungerade = b.KS_inpb(Basis + 1);
         EXPECT_EQ(Gerade >> 4, (w & 1 ? 0 : 8) | (w & 4 ? 4 : 0) | (w & 16 ? 2 : 0) | (w >> 6 & 1));
-        EXPECT_EQ(Ungerade >> 4, (w & 2 ? 0 : 8) | (w & 8 ? 4 : 0) | (w & 32 ? 2 : 0) | (w >> 7 & 1));
+        EXPECT_EQ(Ungerade >> 4,
+                  (w & 2 ? 0 : 8) | (w & 8 ? 4 : 0) | (w & 32 ? 2 : 0) | (w >> 7 & 1));
     }
 }
 
@@ -158,10 +162,13 @@ TEST_F(Eprommer_Test, the_counters_have_16_bits)
 
 TEST_F(Eprommer_Test, the_upper_address_lines_are_C3_C0_inverted_and_C2)
 {
-    Simulierter_Eprommer& b = Neu("27C040", 524288);
-    const std::pair<int, std::uint32_t> Faelle[] = {{9 + 2, 0},           {1 + 2, 0x10000},
-                                                    {8 + 2, 0x20000},     {0 + 2, 0x30000},
-                                                    {9 + 4 + 2, 0x40000}, {0 + 4 + 2, 0x70000}};
+    Simulierter_Eprommer&               b        = Neu("27C040", 524288);
+    const std::pair<int, std::uint32_t> Faelle[] = {{9 + 2, 0},
+                                                    {1 + 2, 0x10000},
+                                                    {8 + 2, 0x20000},
+                                                    {0 + 2, 0x30000},
+                                                    {9 + 4 + 2, 0x40000},
+                                                    {0 + 4 + 2, 0x70000}};
     for (const auto& [Steuerung, Adresse] : Faelle) {
         C(b, Steuerung);
         EXPECT_EQ(b.Baustein_Adresse(), Adresse);
@@ -251,7 +258,7 @@ struct Puls_Fall {
 
 class Puls_Test : public Eprommer_Test, public ::testing::WithParamInterface<Puls_Fall> {
 protected:
-    int F() const { return GetParam().F; }
+    int                   F() const { return GetParam().F; }
     Simulierter_Eprommer& Geladen()
     {
         Simulierter_Eprommer& b = Neu(GetParam().Typ);
@@ -330,9 +337,9 @@ TEST_P(Puls_Test, with_the_bus_left_open_nothing_is_programmed)
 
 TEST_P(Puls_Test, a_silent_device_takes_no_pulse_and_gives_no_answer)
 {
-    Simulierter_Eprommer& b   = Geladen();
-    b.Fehler.Baustein_Stumm   = true;
-    Zellen(b)[1]              = 0;
+    Simulierter_Eprommer& b = Geladen();
+    b.Fehler.Baustein_Stumm = true;
+    Zellen(b)[1]            = 0;
     Beginnen(b);
     b.Wartet(1000);
     Enden(b);

@@ -24,7 +24,8 @@ TEST(Feldwert_Test, a_field_is_worth_the_number_that_it_begins_with)
 
 TEST(Feldwert_Test, a_field_without_a_number_is_0)
 {
-    for (const char* t : {"", " ", "EMPTY", "LEER", "HOCH  ", "-", "+", ".", "inf", "nan", "-inf", "--1"})
+    for (const char* t :
+         {"", " ", "EMPTY", "LEER", "HOCH  ", "-", "+", ".", "inf", "nan", "-inf", "--1"})
         EXPECT_EQ(Feld_Wert(t), 0) << t;
 }
 

@@ -11,6 +11,8 @@
 #include <numeric>
 #include <random>
 
+#include <unistd.h>
+
 namespace varnholt::test {
 namespace {
 
@@ -26,12 +28,15 @@ protected:
     {
         Board_Anschliessen();
         std::mt19937 Zufall(Saat);
-        std::generate(Inhalt().begin(), Inhalt().end(),
-                      [&] { return static_cast<std::uint8_t>(Zufall()); });
+        std::generate(
+            Inhalt().begin(), Inhalt().end(), [&] { return static_cast<std::uint8_t>(Zufall()); });
         Hex_Puffer.assign(Hex_Daten.size(), 0);
         Spur();
     }
-    std::vector<std::uint8_t> Gelesen() { return {Hex_Puffer.begin(), Hex_Puffer.begin() + Geraete_Tabelle[0].Bytes}; }
+    std::vector<std::uint8_t> Gelesen()
+    {
+        return {Hex_Puffer.begin(), Hex_Puffer.begin() + Geraete_Tabelle[0].Bytes};
+    }
     std::size_t Statuslesungen()
     {
         const std::string s = Spur();
@@ -212,7 +217,7 @@ TEST_F(Pruef_Modus_Test, with_all_pages_proved_the_device_is_walked_without_a_re
 
 TEST_F(Pruef_Modus_Test, there_is_no_connection_check_and_the_dialog_stays_up)
 {
-    Status.Offen = true;
+    Status.Offen             = true;
     Geraete_Tabelle[0].R_Typ = "28C256";
     Seiten_Liste             = {1, 1, 1, 0};
     Speicher_Lesen();
@@ -227,15 +232,17 @@ TEST_F(Pruef_Modus_Test, its_texts_tell_of_the_verification)
     Speicher_Lesen();
     EXPECT_EQ(Status.Texte.front(), "29C256 Verify data ");
     EXPECT_EQ(Status.Texte[1], "29C256 Verify data ... 1%");
-    EXPECT_EQ(Status.Texte.back(), "29C256 Verify data ... 100%   More than one passes are "
-                                   "neccessary. Please don't abort this.");
+    EXPECT_EQ(Status.Texte.back(),
+              "29C256 Verify data ... 100%   More than one passes are "
+              "neccessary. Please don't abort this.");
     Sprache = "D";
     Status.Texte.clear();
     Speicher_Lesen();
     EXPECT_EQ(Status.Texte.front(), "29C256 - Daten werden überprüft...");
     EXPECT_EQ(Status.Texte[1], "29C256  - Daten werden überprüft... 1%");
-    EXPECT_EQ(Status.Texte.back(), "29C256  - Daten werden überprüft... 100%   Es sind mehrere "
-                                   "Durchläufe erforderlich, bitte nicht abbrechen.");
+    EXPECT_EQ(Status.Texte.back(),
+              "29C256  - Daten werden überprüft... 100%   Es sind mehrere "
+              "Durchläufe erforderlich, bitte nicht abbrechen.");
 }
 
 TEST_F(Pruef_Modus_Test, a_list_that_is_too_short_reads_the_rest)
@@ -262,7 +269,8 @@ TEST_F(Pruef_Modus_Test, a_skipped_page_that_ends_at_the_half_switches_the_bank)
     Seiten_Liste = {1, 0};
     Speicher_Lesen();
     EXPECT_EQ(Bank, 1);
-    EXPECT_TRUE(std::equal(Inhalt().begin() + 0x40000, Inhalt().end(), Hex_Puffer.begin() + 0x40000));
+    EXPECT_TRUE(
+        std::equal(Inhalt().begin() + 0x40000, Inhalt().end(), Hex_Puffer.begin() + 0x40000));
 }
 
 // ---- progress and cancel ----
@@ -363,8 +371,8 @@ TEST_F(Lesen_Test, a_stuck_line_is_found_by_the_connection_check)
 {
     Einsetzen("27C64", 4);
     for (int Bit = 0; Bit < 8; ++Bit) {
-        const auto m        = static_cast<std::uint8_t>(1 << Bit);
-        Board().Fehler      = {};
+        const auto m   = static_cast<std::uint8_t>(1 << Bit);
+        Board().Fehler = {};
         (0x55 & m ? Board().Fehler.Klemmt_Auf_0 : Board().Fehler.Klemmt_Auf_1) = m;
         Box.Meldungen.clear();
         Speicher_Lesen();
@@ -445,10 +453,12 @@ TEST_F(Lesen_Test, the_command_replaces_the_image_by_the_device)
     const auto Vor_Lesen = Ansichten.Hex_Stand;
     MNU_IC_Lesen_Click();
     EXPECT_TRUE(std::equal(Inhalt().begin(), Inhalt().end(), Hex_Daten.begin()));
-    EXPECT_TRUE(std::all_of(Hex_Daten.begin() + 64, Hex_Daten.end(), [](int b) { return b == 0xFF; }));
+    EXPECT_TRUE(
+        std::all_of(Hex_Daten.begin() + 64, Hex_Daten.end(), [](int b) { return b == 0xFF; }));
     EXPECT_TRUE(Hex_Puffer.empty());
     EXPECT_EQ(Datei_Name, "");
-    EXPECT_EQ(Ereignisse.Titel_Texte, (std::vector<std::string>{"2:MC-Editor (*)", "1:Hex-Editor (*)"}));
+    EXPECT_EQ(Ereignisse.Titel_Texte,
+              (std::vector<std::string>{"2:MC-Editor (*)", "1:Hex-Editor (*)"}));
     EXPECT_EQ(Edit.Text(), "");
     EXPECT_FALSE(Text_Aktuell);
     EXPECT_FALSE(Datei_Geaendert);
@@ -472,7 +482,8 @@ TEST_F(Lesen_Test, after_a_cancel_the_image_holds_FFh_and_what_was_read)
     MNU_IC_Lesen_Click();
     EXPECT_EQ(Antwort, Antwort_Abbrechen);
     EXPECT_TRUE(std::equal(Inhalt().begin(), Inhalt().begin() + 30, Hex_Daten.begin()));
-    EXPECT_TRUE(std::all_of(Hex_Daten.begin() + 30, Hex_Daten.end(), [](int b) { return b == 0xFF; }));
+    EXPECT_TRUE(
+        std::all_of(Hex_Daten.begin() + 30, Hex_Daten.end(), [](int b) { return b == 0xFF; }));
 }
 
 TEST_F(Lesen_Test, unsaved_work_is_asked_for_in_both_languages)
@@ -503,7 +514,8 @@ TEST_F(Lesen_Test, no_goes_on_without_saving)
 TEST_F(Lesen_Test, yes_saves_and_reads_nothing)
 {
     Einsetzen("27C64", 4);
-    const auto Datei = std::filesystem::temp_directory_path() / "varnholt-lesen-test.bin";
+    const auto Datei = std::filesystem::temp_directory_path() /
+                       ("varnholt-lesen-" + std::to_string(getpid()) + ".bin");
     std::filesystem::remove(Datei);
     Bild_Fuellen({1, 2, 3});
     Modus           = Modus_Hex;

@@ -1,4 +1,5 @@
-// The signal protocol: status decoding, address bits, the single byte sequences, the connection check.
+// The signal protocol: status decoding, address bits, the single byte sequences, the connection
+// check.
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "programmer/Brenner_Welt.h"
@@ -253,8 +254,16 @@ INSTANTIATE_TEST_SUITE_P(Types,
 
 TEST_F(Signale_Test, the_check_programs_no_device_whose_supply_it_raises)
 {
-    for (const char* Typ : {"27C64", "27C128", "27C256", "27C512", "27C010", "27C020", "27C040",
-                            "27C080", "87C257", "27SF256"}) {
+    for (const char* Typ : {"27C64",
+                            "27C128",
+                            "27C256",
+                            "27C512",
+                            "27C010",
+                            "27C020",
+                            "27C040",
+                            "27C080",
+                            "87C257",
+                            "27SF256"}) {
         Geraet(Typ, 64);
         Board_Anschliessen();
         for (int i = 0; i < 50; ++i)

@@ -184,10 +184,12 @@ protected:
 TEST_P(Waechter_Test, without_a_driver_a_device_command_only_says_so)
 {
     for (const auto& [Kuerzel, Text] :
-         {std::pair{"D", "Porttreiber wurden nicht korrekt geladen. Parallelportzugriff nicht "
-                         "möglich."},
-          std::pair{"E", "Portdriver has not been loaded sucessfully. Parallelport access not "
-                         "possible."}}) {
+         {std::pair{"D",
+                    "Porttreiber wurden nicht korrekt geladen. Parallelportzugriff nicht "
+                    "möglich."},
+          std::pair{"E",
+                    "Portdriver has not been loaded sucessfully. Parallelport access not "
+                    "possible."}}) {
         Sprache = Kuerzel;
         Box.Meldungen.clear();
         GetParam().Lauf();

@@ -20,17 +20,21 @@ public:
     void        Hinweisen(std::string_view Text) override;
     int         Bereich_Waehlen(std::string_view Text) override;
 
-    std::vector<Meldung_T>   Meldungen{};  // every box shown, in order
-    std::vector<std::string> Fragen{};     // texts of input boxes and of the partial-load question
-    std::vector<std::string> Hinweise{};   // notices without a box
-    std::deque<int>          Antworten{};  // answers to the next boxes; OK or Cancel when empty
-    std::deque<std::string>  Eingaben{};   // answers to the next input boxes
-    std::deque<int>          Bereiche{};   // answers to the next partial-load questions
+    std::vector<Meldung_T>   Meldungen{}; // every box shown, in order
+    std::vector<std::string> Fragen{};    // texts of input boxes and of the partial-load question
+    std::vector<std::string> Hinweise{};  // notices without a box
+    std::deque<int>          Antworten{}; // answers to the next boxes; OK or Cancel when empty
+    std::deque<std::string>  Eingaben{};  // answers to the next input boxes
+    std::deque<int>          Bereiche{};  // answers to the next partial-load questions
 };
 
 class Skript_Status : public Statusdialog {
 public:
-    void Oeffnen() override { Offen = true; ++Geoeffnet; }
+    void Oeffnen() override
+    {
+        Offen = true;
+        ++Geoeffnet;
+    }
     void Text(std::string_view Neuer) override { Texte.emplace_back(Neuer); }
     void ProgBar(int Prozent) override { Balken.push_back(Prozent); }
     void Schliessen() override { Offen = false; }

@@ -1,0 +1,14 @@
+#!/bin/sh
+# Builds optimised and runs the benchmarks: the routines by themselves, and whole processes against
+# the public tools that do the same job.
+set -eu
+cd "$(dirname "$0")"
+. scripts/pakete.sh
+
+pakete_sichern g++ cmake ninja-build libfmt-dev libcli11-dev nlohmann-json3-dev libbenchmark-dev \
+    as31 srecord
+
+cmake --preset bench >/dev/null
+cmake --build --preset bench
+build/bench/bench/bench_routines "$@"
+build/bench/bench/bench_tools build/bench/bin/varnholt-cli

@@ -1,0 +1,213 @@
+// The command line's device commands on the simulated board.
+#include "cli/Cli_Hilfe.h"
+
+namespace varnholt::test {
+namespace {
+
+bool Enthaelt(const std::string& Text, const std::string& Teil)
+{
+    return Text.find(Teil) != std::string::npos;
+}
+
+TEST_F(Cli, program_read_check_and_compare_go_the_whole_road)
+{
+    Schreiben("a.bin", Muster(5000));
+    const auto p = Laufen({"program", "a.bin", "--device", "27C64", "--port", "sim:chip.bin"});
+    EXPECT_EQ(p.Status, 0) << p.Fehler;
+    EXPECT_TRUE(Enthaelt(p.Aus, "The IC data is equivalent to the editor data"));
+    EXPECT_EQ(Lesen("chip.bin"), Muster(5000) + std::string(8192 - 5000, '\xFF'));
+    EXPECT_EQ(Laufen({"read", "--device", "27c64", "--port", "sim:chip.bin", "-o", "b.bin"}).Status,
+              0);
+    EXPECT_EQ(Laufen({"compare", "a.bin", "b.bin"}).Status, 0);
+    EXPECT_EQ(Laufen({"check", "a.bin", "--device", "27C64", "--port", "sim:chip.bin"}).Status, 0);
+}
+
+TEST_F(Cli, a_source_is_assembled_before_it_is_programmed_or_checked)
+{
+    Schreiben("a.asm", " INC A\n RET\n");
+    EXPECT_EQ(Laufen({"program", "a.asm", "--device", "27C64", "--port", "sim:chip.bin"}).Status,
+              0);
+    EXPECT_EQ(Lesen("chip.bin").substr(0, 3), "\x04\x22\xFF");
+    EXPECT_EQ(Laufen({"check", "a.asm", "--device", "27C64", "--port", "sim:chip.bin"}).Status, 0);
+    Schreiben("b.asm", " FOO\n");
+    const auto r = Laufen({"program", "b.asm", "--device", "27C64", "--port", "sim:none.bin"});
+    EXPECT_EQ(r.Status, 1);
+    EXPECT_TRUE(Enthaelt(r.Fehler, "b.asm:1: error:"));
+    EXPECT_FALSE(Da("none.bin"));
+}
+
+TEST_F(Cli, ranges_and_the_split_reach_the_programming_routine)
+{
+    Schreiben("a.bin", "ABCDEFGH");
+    EXPECT_NE(Laufen({"program",
+                      "a.bin",
+                      "--device",
+                      "27C64",
+                      "--port",
+                      "sim:c1.bin",
+                      "--editor-from",
+                      "2",
+                      "--editor-to",
+                      "0x3",
+                      "--ic-from",
+                      "10h"})
+                  .Status,
+              2);
+    EXPECT_EQ(Lesen("c1.bin").substr(15, 4),
+              "\xFF"
+              "CD\xFF");
+    EXPECT_EQ(
+        Laufen({"program", "a.bin", "--device", "27C64", "--port", "sim:c2.bin", "--split", "odd"})
+            .Status,
+        0);
+    EXPECT_EQ(Lesen("c2.bin").substr(0, 5), "BDFH\xFF");
+    EXPECT_EQ(
+        Laufen({"check", "a.bin", "--device", "27C64", "--port", "sim:c2.bin", "--split", "odd"})
+            .Status,
+        0);
+    EXPECT_EQ(
+        Laufen({"program", "a.bin", "--device", "27C64", "--port", "sim:c3.bin", "--split", "even"})
+            .Status,
+        0);
+    EXPECT_EQ(Lesen("c3.bin").substr(0, 5), "ACEG\xFF");
+}
+
+TEST_F(Cli, zero_below_writes_zeros_ahead_of_the_first_address)
+{
+    Schreiben("a.bin", "AB");
+    Laufen({"program",
+            "a.bin",
+            "--device",
+            "27C64",
+            "--port",
+            "sim:c.bin",
+            "--ic-from",
+            "3",
+            "--zero-below"});
+    EXPECT_EQ(Lesen("c.bin").substr(0, 6), std::string("\0\0\0AB\xFF", 6));
+}
+
+TEST_F(Cli, ranges_that_do_not_fit_are_refused_before_anything_is_written)
+{
+    Schreiben("a.bin", "ABCD");
+    const std::vector<std::vector<std::string>> Falsche = {
+        {"--editor-from", "3", "--editor-to", "2"},
+        {"--editor-from", "3", "--editor-to", "2", "--ic-from", "1"},
+        {"--ic-from", "8190"},
+        {"--ic-from", "12x"}};
+    for (const auto& f : Falsche) {
+        std::vector<std::string> Zeile{
+            "program", "a.bin", "--device", "27C64", "--port", "sim:c.bin"};
+        Zeile.insert(Zeile.end(), f.begin(), f.end());
+        EXPECT_EQ(Laufen(Zeile).Status, 2) << f[0] << f[1];
+        EXPECT_TRUE(!Da("c.bin") || Lesen("c.bin") == std::string(8192, '\xFF'));
+    }
+}
+
+TEST_F(Cli, an_empty_image_gives_nothing_to_program)
+{
+    Schreiben("a.bin", "\xFF\xFF");
+    const auto r = Laufen({"program", "a.bin", "--device", "27C64", "--port", "sim"});
+    EXPECT_EQ(r.Status, 1);
+    EXPECT_EQ(r.Fehler, "The image is empty, there is nothing to program.\n");
+    EXPECT_EQ(Laufen({"--language", "D", "program", "a.bin", "--device", "27C64", "--port", "sim"})
+                  .Fehler,
+              "Das Bild ist leer, es gibt nichts zu brennen.\n");
+}
+
+TEST_F(Cli, a_cell_that_would_have_to_rise_is_a_device_fault)
+{
+    Schreiben("chip.bin", std::string(8192, '\0'));
+    Schreiben("a.bin", "A");
+    const auto r = Laufen({"program", "a.bin", "--device", "27C64", "--port", "sim:chip.bin"});
+    EXPECT_EQ(r.Status, 1);
+    EXPECT_TRUE(Enthaelt(r.Fehler, "Error while programming address 0(dec) / 0(hex) !"))
+        << r.Fehler;
+    EXPECT_EQ(Lesen("chip.bin"), std::string(8192, '\0'));
+}
+
+TEST_F(Cli, a_difference_found_by_check_is_status_1_and_can_be_listed)
+{
+    Schreiben("chip.bin", "AXC" + std::string(8189, '\xFF'));
+    Schreiben("a.bin", "ABC");
+    const auto r =
+        Laufen({"check", "a.bin", "--device", "27C64", "--port", "sim:chip.bin", "--differences"});
+    EXPECT_EQ(r.Status, 1);
+    EXPECT_TRUE(Enthaelt(r.Aus, "The IC data is NOT equivalent to the editor data."));
+    EXPECT_TRUE(Enthaelt(r.Aus, "000001 |  42  |  58"));
+    const auto d = Laufen(
+        {"--language", "D", "check", "a.bin", "--device", "27C64", "--port", "sim:chip.bin"});
+    EXPECT_TRUE(Enthaelt(d.Aus, "Die Daten des IC entsprechen NICHT den Daten des Editors."));
+}
+
+TEST_F(Cli, an_erased_device_that_differs_gets_no_verdict_but_status_1)
+{
+    Schreiben("a.bin", "ABC");
+    const auto r = Laufen({"check", "a.bin", "--device", "27C64", "--port", "sim"});
+    EXPECT_EQ(r.Status, 1);
+    EXPECT_EQ(r.Aus, "Clear\n");
+}
+
+TEST_F(Cli, a_socket_file_of_the_wrong_size_is_refused_and_kept)
+{
+    Schreiben("chip.bin", "short");
+    Schreiben("a.bin", "A");
+    EXPECT_EQ(Laufen({"program", "a.bin", "--device", "27C64", "--port", "sim:chip.bin"}).Status,
+              3);
+    EXPECT_EQ(Lesen("chip.bin"), "short");
+}
+
+TEST_F(Cli, the_trace_holds_every_operation_in_order)
+{
+    Schreiben("a.bin", "A");
+    EXPECT_EQ(Laufen({"read",
+                      "--device",
+                      "27C64",
+                      "--port",
+                      "sim",
+                      "-o",
+                      "b.bin",
+                      "--trace",
+                      "t.txt",
+                      "--no-check-board"})
+                  .Status,
+              0);
+    EXPECT_EQ(Lesen("t.txt").substr(0, 50),
+              "W D 4A\nW C 0D\nM 1\nW C 0F\nM 1\nW C 0B\nW D 4B\nU 10\nR");
+}
+
+TEST_F(Cli, test_runs_the_board_test)
+{
+    const auto r = Laufen({"test", "--port", "sim"});
+    EXPECT_EQ(r.Status, 0);
+    EXPECT_EQ(r.Aus, "TEST 1 OKAY!\n");
+}
+
+TEST_F(Cli, ports_and_devices_that_do_not_exist_are_told)
+{
+    Schreiben("a.bin", "A");
+    for (const char* Port : {"usb", "sim:", "io:", "io:xyz", "io:0", "ppdev:"})
+        EXPECT_EQ(Laufen({"check", "a.bin", "--device", "27C64", "--port", Port}).Status, 2)
+            << Port;
+    EXPECT_EQ(Laufen({"check", "a.bin", "--device", "27C65", "--port", "sim"}).Status, 2);
+    EXPECT_EQ(Laufen({"check", "a.bin", "--port", "sim"}).Status, 2);
+    const auto r =
+        Laufen({"check", "a.bin", "--device", "27C64", "--port", "ppdev:/dev/no-such-port"});
+    EXPECT_EQ(r.Status, 1);
+    EXPECT_TRUE(Enthaelt(r.Fehler, "Portdriver has not been loaded sucessfully."));
+}
+
+TEST_F(Cli, devices_of_later_routines_are_not_available_yet)
+{
+    Schreiben("a.bin", "A");
+    for (const char* Geraet : {"28C64", "29C010", "28F010", "89C2051", "89C51"}) {
+        const auto r = Laufen({"program", "a.bin", "--device", Geraet, "--port", "sim"});
+        EXPECT_EQ(r.Status, 2) << Geraet;
+        EXPECT_TRUE(Enthaelt(r.Fehler, "not available yet")) << Geraet << r.Fehler;
+    }
+    EXPECT_EQ(Laufen({"read", "--device", "89C51", "--port", "sim", "-o", "b.bin"}).Status, 2);
+    EXPECT_FALSE(Da("b.bin"));
+}
+
+} // namespace
+} // namespace varnholt::test

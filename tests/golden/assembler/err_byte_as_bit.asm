@@ -1,0 +1,2 @@
+INCLUDE 8051.mc
+        SETB P1

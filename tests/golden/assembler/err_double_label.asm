@@ -1,0 +1,4 @@
+X:      NOP
+y:      NOP
+
+x:      RET

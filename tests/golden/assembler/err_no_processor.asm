@@ -1,0 +1,3 @@
+; P1 is not known
+        NOP
+        MOV P1,A

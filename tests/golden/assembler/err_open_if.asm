@@ -1,0 +1,4 @@
+        NOP
+        IF A=#5 THEN
+        NOP
+        RET

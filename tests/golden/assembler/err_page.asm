@@ -1,0 +1,3 @@
+        AJMP FAR
+        ORG 1000h
+FAR:    RET

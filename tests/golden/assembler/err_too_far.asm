@@ -1,0 +1,3 @@
+START:  NOP
+        ORG 200
+        SJMP START

@@ -1,0 +1,3 @@
+INCLUDE 8051.mc
+        NOP
+        MOV A,R9
