@@ -1,11 +1,13 @@
 // Values on the command line.
 #include "cli/Argumente.h"
 
+#include "cli/Konsole.h"
+
 #include <charconv>
-#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
+#include <limits>
 #include <string>
 
 namespace varnholt {
@@ -16,24 +18,35 @@ namespace {
 
 constexpr std::uintmax_t Eingabe_Hoechstens = std::uintmax_t{64} << 20;
 
-void Eingabe_Sammeln(const fs::path& Ziel)
+// Copies a stream into a file; the text tells what went wrong, and is empty when nothing did.
+std::string Sammeln(const std::string& Quelle, const fs::path& Ziel)
 {
+    std::ifstream  Datei_Ein(Quelle == "-" ? "/dev/stdin" : Quelle, std::ios::binary);
     std::ofstream  Datei(Ziel, std::ios::binary);
-    char           Puffer[65536];
     std::uintmax_t Gesamt = 0;
-    while (Gesamt <= Eingabe_Hoechstens) {
-        const std::size_t n = std::fread(Puffer, 1, sizeof Puffer, stdin);
-        if (n == 0)
-            return;
-        Datei.write(Puffer, static_cast<std::streamsize>(n));
-        Gesamt += n;
+    char           Puffer[65536];
+    while (Datei_Ein.read(Puffer, sizeof Puffer) || Datei_Ein.gcount() > 0) {
+        Gesamt += static_cast<std::uintmax_t>(Datei_Ein.gcount());
+        if (Gesamt > Eingabe_Hoechstens)
+            return Quelle + ": more than 64 MiB";
+        Datei.write(Puffer, Datei_Ein.gcount());
     }
+    if (Datei_Ein.bad())
+        return Quelle + ": can't be read";
+    return Datei.flush() ? std::string{} : Quelle + ": there is no room for a copy";
 }
 
 fs::path Eigener_Ordner()
 {
-    std::string Vorlage = (fs::temp_directory_path() / "varnholt-XXXXXX").string();
+    std::error_code Fehler;
+    std::string     Vorlage = (fs::temp_directory_path(Fehler) / "varnholt-XXXXXX").string();
     return mkdtemp(Vorlage.data()) != nullptr ? fs::path(Vorlage) : fs::path{};
+}
+
+bool Ist_Strom(const std::string& Name, Strom_Datei::Richtung Wohin)
+{
+    std::error_code Fehler;
+    return Name == "-" || (Wohin == Strom_Datei::Richtung::Eingabe && fs::is_fifo(Name, Fehler));
 }
 
 } // namespace
@@ -49,10 +62,12 @@ std::optional<std::int32_t> Zahl_Von(std::string_view Text)
         Text.remove_suffix(1);
     }
     std::int32_t Wert      = 0;
-    const auto [Ende, Art] = std::from_chars(Text.data(), Text.data() + Text.size(), Wert, Basis);
-    if (Text.empty() || Art != std::errc{} || Ende != Text.data() + Text.size() || Wert < 0)
+    const char*  Schluss   = Text.data() + Text.size();
+    const auto [Ende, Art] = std::from_chars(Text.data(), Schluss, Wert, Basis);
+    if (Text.empty() || Art == std::errc::invalid_argument || Ende != Schluss ||
+        Text.front() == '-')
         return std::nullopt;
-    return Wert;
+    return Art == std::errc::result_out_of_range ? std::numeric_limits<std::int32_t>::max() : Wert;
 }
 
 Datei_Mit_Adresse Datei_Mit_Adresse_Von(const std::string& Text)
@@ -68,12 +83,18 @@ Datei_Mit_Adresse Datei_Mit_Adresse_Von(const std::string& Text)
 
 Strom_Datei::Strom_Datei(const std::string& Name, Richtung Wohin) : Pfad_(Name)
 {
-    if (Name != "-")
+    if (!Ist_Strom(Name, Wohin))
         return;
     Ordner_ = Eigener_Ordner();
-    Pfad_   = (Ordner_ / (Wohin == Richtung::Eingabe ? "stdin" : "stdout")).string();
-    if (Wohin == Richtung::Eingabe)
-        Eingabe_Sammeln(Pfad_);
+    Pfad_   = (Ordner_ / "stream").string();
+    std::string Fehler;
+    if (Ordner_.empty())
+        Fehler = Name + ": there is no folder for temporary files";
+    else if (Wohin == Richtung::Eingabe)
+        Fehler = Sammeln(Name, Pfad_);
+    Ist_Bereit = Fehler.empty();
+    if (!Ist_Bereit)
+        Auf_Fehlerausgabe(Fehler);
 }
 
 Strom_Datei::~Strom_Datei()

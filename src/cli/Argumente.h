@@ -9,7 +9,8 @@
 
 namespace varnholt {
 
-// Decimal, 0x1F or 1Fh (any case) from 0 up to 2^31 - 1; empty for anything else.
+// Decimal, 0x1F or 1Fh (any case), not negative; what is beyond 2^31 - 1 counts as that. Empty for
+// anything else.
 std::optional<std::int32_t> Zahl_Von(std::string_view Text);
 
 // IN[@ADDRESS]. The address counts when what stands behind the last @ is a number.
@@ -19,8 +20,9 @@ struct Datei_Mit_Adresse {
 };
 Datei_Mit_Adresse Datei_Mit_Adresse_Von(const std::string& Text);
 
-// A file that stands for standard input or output while a command runs: a temporary one, whose
-// name has no extension. The name itself when it isn't `-`.
+// A file that stands for standard input or output while a command runs: a temporary one, whose name
+// has no extension. Standard input is `-`, and a pipe is read the same way. Any other name stands
+// for itself.
 class Strom_Datei {
 public:
     enum class Richtung { Eingabe, Ausgabe };
@@ -29,13 +31,16 @@ public:
     Strom_Datei(const Strom_Datei&)            = delete;
     Strom_Datei& operator=(const Strom_Datei&) = delete;
 
+    // False when the stream can't be read, is too long or has no room; the error was printed.
+    [[nodiscard]] bool Bereit() const { return Ist_Bereit; }
     const std::string& Pfad() const { return Pfad_; }
     // Copies what a command wrote to standard output. False when that can't be written.
     [[nodiscard]] bool Ausgeben() const;
 
 private:
     std::string           Pfad_;
-    std::filesystem::path Ordner_{}; // to be removed; empty when the name was no `-`
+    std::filesystem::path Ordner_{}; // to be removed; empty when the name stands for itself
+    bool                  Ist_Bereit = true;
 };
 
 } // namespace varnholt

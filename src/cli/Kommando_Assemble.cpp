@@ -81,11 +81,16 @@ int Assemble(const Assemble_Optionen& o)
     Zahlendeutung       = o.Zahlen == "hexadecimal";
     O_MOV_ZQ            = o.Reihe == "destination";
     C_Erstelle_Listfile = !o.Liste.empty();
+    for (const std::string& Name : o.Ausgaben)
+        if (const int Status = Bildname_Pruefen(Name); Status != Status_Fertig)
+            return Status;
     if (const int Status = Geraet_Waehlen(o.Geraet); Status != Status_Fertig)
         return Status;
     if (const int Status = Quelle_Laden(o.Quelle); Status != Status_Fertig)
         return Status;
     const Strom_Datei Liste(o.Liste, Strom_Datei::Richtung::Ausgabe);
+    if (!Liste.Bereit())
+        return Status_Datei;
     Listen_Name       = Liste.Pfad();
     const bool Gut    = Quelle_Assemblieren(o.Quelle, o.Debug);
     int        Status = Gut ? Status_Der_Datei() : Status_Misslungen;

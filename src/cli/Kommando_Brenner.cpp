@@ -8,6 +8,7 @@
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "files/Datei_Zustand.h"
+#include "programmer/Baustein.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Brennmenue.h"
 #include "programmer/CheckIC.h"
@@ -51,29 +52,49 @@ struct Check_Optionen : Geraete_Optionen {
     bool        Abweichungen = false;
 };
 
-// Selects the device, opens the port, does the job, closes the port.
+int Nicht_Bedient(const std::string& Geraet)
+{
+    return Falsche_Zeile({"Das ist für das IC " + Geraet + " noch nicht verfügbar",
+                          "this is not available yet for the device " + Geraet});
+}
+
+// Opens the port, does the job, closes the port.
 int Am_Port(const Geraete_Optionen& o, const std::function<int()>& Tun)
 {
     C_Brenner = !o.Ohne_Board_Test;
     C_IC      = !o.Ohne_IC_Test;
-    if (const int Status = Geraet_Waehlen(o.Geraet); Status != Status_Fertig)
-        return Status;
     Port_Wahl Port;
     if (const int Status = Port.Oeffnen(o.Port, o.Spur); Status != Status_Fertig)
         return Status;
     return Port.Schliessen(Tun());
 }
 
-int Nicht_Bedient(const std::string& Geraet)
+// Loads the file and selects the device; a source is assembled for it then, so that its size is
+// checked. A program that doesn't fit drops the device again.
+int Datei_Und_Geraet(const Geraete_Optionen& o)
 {
-    return Falsche_Zeile("this is not available yet for the device " + Geraet);
+    const bool Quelle = Hat_Quell_Endung(o.Datei);
+    if (const int Status = Quelle ? Quelle_Laden(o.Datei) : Bild_Laden_Von(o.Datei);
+        Status != Status_Fertig)
+        return Status;
+    if (const int Status = Geraet_Waehlen(o.Geraet); Status != Status_Fertig)
+        return Status;
+    if (Quelle && !Quelle_Assemblieren(o.Datei, false))
+        return Status_Misslungen;
+    return Baustein_Gewaehlt() ? Status_Fertig : Status_Misslungen;
 }
 
 int Read(const Geraete_Optionen& o)
 {
+    if (const int Status = Bildname_Pruefen(o.Datei); Status != Status_Fertig)
+        return Status;
+    if (const int Status = Geraet_Waehlen(o.Geraet); Status != Status_Fertig)
+        return Status;
+    if (!Baustein_Gewaehlt())
+        return Status_Misslungen;
+    if (!Lesen_Bedient())
+        return Nicht_Bedient(o.Geraet);
     return Am_Port(o, [&o] {
-        if (!Lesen_Bedient())
-            return Nicht_Bedient(o.Geraet);
         Modus = Modus_Hex;
         MNU_IC_Lesen_Click();
         return Antwort == Antwort_Abbrechen ? int{Status_Misslungen}
@@ -88,15 +109,11 @@ void Vergleich_Ausgeben()
         std::cout << CheckIC.Ergebnis << '\n';
 }
 
-// Puts a number into a field of the dialog; an empty text leaves the field. False: no number.
-bool Feld_Setzen(const std::string& Text, void (*Feld_Change)(std::string_view))
+// Puts a number into a field of the dialog; an empty text leaves the field.
+void Feld_Setzen(const std::string& Text, void (*Feld_Change)(std::string_view))
 {
-    if (Text.empty())
-        return true;
-    const auto Zahl = Zahl_Von(Text);
-    if (Zahl)
+    if (const auto Zahl = Zahl_Von(Text))
         Feld_Change(std::to_string(*Zahl));
-    return Zahl.has_value();
 }
 
 Splitting Splitting_Von(const std::string& Text)
@@ -106,53 +123,75 @@ Splitting Splitting_Von(const std::string& Text)
     return Text == "odd" ? Splitting::Ungerade : Splitting::Kein;
 }
 
-bool Felder_Ausfuellen(const Program_Optionen& o)
+void Felder_Ausfuellen(const Program_Optionen& o)
 {
     Splitting_Waehlen(Splitting_Von(o.Split));
     Brennmenue.DAT00   = o.Null_Darunter;
     Brennmenue.Löschen = o.Loeschen;
     // The device's field first: a change of it alone doesn't look at the editor's range again.
-    return Feld_Setzen(o.IC_Von, BR_EBA_D_Change) && Feld_Setzen(o.Editor_Von, ED_EBA_D_Change) &&
-           Feld_Setzen(o.Editor_Bis, ED_LBA_D_Change);
+    Feld_Setzen(o.IC_Von, BR_EBA_D_Change);
+    Feld_Setzen(o.Editor_Von, ED_EBA_D_Change);
+    Feld_Setzen(o.Editor_Bis, ED_LBA_D_Change);
 }
 
 // Why the button `Brennen` is off.
-int Bereich_Ablehnen()
+int Bereich_Ablehnen(bool War_Leer)
 {
-    if (Letztes_Byte() < 0) {
+    if (War_Leer) {
         Auf_Fehlerausgabe(In_Sprache({"Das Bild ist leer, es gibt nichts zu brennen.",
                                       "The image is empty, there is nothing to program."}));
         return Status_Misslungen;
     }
+    const auto& b = Brennmenue;
     return Falsche_Zeile(
-        fmt::format("the range doesn't fit: editor {} to {}, IC from {}, device up "
-                    "to {}",
-                    Brennmenue.ED_EBA_D,
-                    Brennmenue.ED_LBA_D,
-                    Brennmenue.BR_EBA_D,
-                    Brennmenue.IC_GS_D));
+        {fmt::format("Der Bereich passt nicht: Editor {} bis {}, IC ab {}, IC bis {}",
+                     b.ED_EBA_D,
+                     b.ED_LBA_D,
+                     b.BR_EBA_D,
+                     b.IC_GS_D),
+         fmt::format("the range doesn't fit: editor {} to {}, IC from {}, IC up to {}",
+                     b.ED_EBA_D,
+                     b.ED_LBA_D,
+                     b.BR_EBA_D,
+                     b.IC_GS_D)});
 }
 
-int Brennen(const Program_Optionen& o)
+int Ergebnis_Nach_Brennen()
 {
-    if (!Brennen_Bedient())
-        return Nicht_Bedient(o.Geraet);
-    MNU_IC_Brennen_Click();
-    if (!Brennmenue.Offen || Antwort == Antwort_Abbrechen)
-        return Status_Misslungen;
-    if (!Felder_Ausfuellen(o))
-        return Falsche_Zeile("an address is no number");
-    if (!Brennmenue.Brennen_Aktiv)
-        return Bereich_Ablehnen();
-    if (Brennmenue.Löschen && !Löschen_Bedient())
-        return Falsche_Zeile("erasing is not available yet for the device " + o.Geraet);
-    Brennen_Click();
     if (Brenn_Ergebnis != Brenn_Ausgang::Fertig)
         return Status_Misslungen;
     if (!C_IC_nach_B)
         return Status_Fertig;
+    if (!CheckIC.Offen)
+        return Status_Misslungen;
     Vergleich_Ausgeben();
     return CheckIC.Gleich ? Status_Fertig : Status_Misslungen;
+}
+
+int Brennen(const Program_Optionen& o)
+{
+    Antwort = Antwort_Ok;
+    MNU_IC_Brennen_Click();
+    if (!Brennmenue.Offen || Antwort == Antwort_Abbrechen)
+        return Status_Misslungen;
+    const bool War_Leer =
+        !Brennmenue.Brennen_Aktiv; // nothing but an empty image disables it at first
+    Felder_Ausfuellen(o);
+    if (!Brennmenue.Brennen_Aktiv)
+        return Bereich_Ablehnen(War_Leer);
+    Brennen_Click();
+    return Ergebnis_Nach_Brennen();
+}
+
+// What can be said without touching the device.
+int Vorher_Pruefen(const Program_Optionen& o)
+{
+    for (const std::string& Zahl : {o.Editor_Von, o.Editor_Bis, o.IC_Von})
+        if (!Zahl.empty() && !Zahl_Von(Zahl))
+            return Falsche_Zeile({Zahl + " ist keine Adresse", Zahl + " is no address"});
+    if (!Brennen_Bedient() || (o.Loeschen && !Löschen_Bedient()))
+        return Nicht_Bedient(o.Geraet);
+    return Status_Fertig;
 }
 
 int Program(const Program_Optionen& o)
@@ -161,16 +200,25 @@ int Program(const Program_Optionen& o)
     C_IC_bei_B  = !o.Ohne_Pruefung_Dabei;
     C_IC_nach_B = !o.Ohne_Pruefung_Danach;
     No_FF       = !o.Mit_FF;
-    if (const int Status = Quelle_Oder_Bild_Laden(o.Datei); Status != Status_Fertig)
+    if (const int Status = Datei_Und_Geraet(o); Status != Status_Fertig)
+        return Status;
+    if (const int Status = Vorher_Pruefen(o); Status != Status_Fertig)
         return Status;
     return Am_Port(o, [&o] { return Brennen(o); });
 }
 
+// The difference table, its lines ended as those of any output.
+std::string Abweichungen_Text()
+{
+    std::string Text = CheckIC.Text;
+    std::erase(Text, '\r');
+    while (Text.ends_with('\n'))
+        Text.pop_back();
+    return Text + '\n';
+}
+
 int Vergleichen_Mit_IC(const Check_Optionen& o)
 {
-    if (!Lesen_Bedient())
-        return Nicht_Bedient(o.Geraet);
-    Antwort = Antwort_Abbrechen;
     if (Programm_Bereit())
         CheckIC_Start(o.Split == "odd", o.Split == "even");
     if (!CheckIC.Offen)
@@ -178,15 +226,17 @@ int Vergleichen_Mit_IC(const Check_Optionen& o)
     Vergleich_Ausgeben();
     if (o.Abweichungen && CheckIC.Button_Dat_Aktiv && !CheckIC.Gleich) {
         Button_Dat_Click();
-        std::cout << CheckIC.Text << '\n';
+        std::cout << Abweichungen_Text();
     }
     return CheckIC.Gleich ? Status_Fertig : Status_Misslungen;
 }
 
 int Check(const Check_Optionen& o)
 {
-    if (const int Status = Quelle_Oder_Bild_Laden(o.Datei); Status != Status_Fertig)
+    if (const int Status = Datei_Und_Geraet(o); Status != Status_Fertig)
         return Status;
+    if (!Lesen_Bedient())
+        return Nicht_Bedient(o.Geraet);
     return Am_Port(o, [&o] { return Vergleichen_Mit_IC(o); });
 }
 

@@ -9,6 +9,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <vector>
@@ -23,6 +24,14 @@ struct Convert_Optionen {
     int                      Haelfte = 0;
 };
 
+bool Von_Standardeingabe(const Datei_Mit_Adresse& Eingabe) { return Eingabe.Datei == "-"; }
+
+int Eingabe_Zweimal()
+{
+    return Falsche_Zeile({"Die Standardeingabe kann nur einmal gelesen werden",
+                          "standard input can be read only once"});
+}
+
 int Einlesen(const Datei_Mit_Adresse& Eingabe, bool Erste)
 {
     if (Erste && !Eingabe.Adresse)
@@ -34,7 +43,7 @@ int Alle_Einlesen(const std::vector<Datei_Mit_Adresse>& Eingaben)
 {
     for (const Datei_Mit_Adresse& e : Eingaben)
         if (e.Adresse.value_or(0) > Hex_Groesse)
-            return Falsche_Zeile("the address of " + e.Datei + " is outside the image");
+            return Falsche_Zeile({e.Datei + ": Ungültiger Wert", e.Datei + ": Invalid value"});
     for (const Datei_Mit_Adresse& e : Eingaben)
         if (const int Status = Einlesen(e, &e == &Eingaben.front()); Status != Status_Fertig)
             return Status;
@@ -47,6 +56,10 @@ int Convert(const Convert_Optionen& o, Konsolen_Box& Box)
     std::vector<Datei_Mit_Adresse> Eingaben;
     for (const std::string& e : o.Eingaben)
         Eingaben.push_back(Datei_Mit_Adresse_Von(e));
+    if (std::count_if(Eingaben.begin(), Eingaben.end(), Von_Standardeingabe) > 1)
+        return Eingabe_Zweimal();
+    if (const int Status = Bildname_Pruefen(o.Ausgabe); Status != Status_Fertig)
+        return Status;
     if (const int Status = Alle_Einlesen(Eingaben); Status != Status_Fertig)
         return Status;
     if (const int Status = Geraet_Waehlen(o.Geraet); Status != Status_Fertig)
@@ -56,18 +69,23 @@ int Convert(const Convert_Optionen& o, Konsolen_Box& Box)
 
 int Compare(const std::vector<std::string>& Dateien)
 {
+    if (Dateien[0] == "-" && Dateien[1] == "-")
+        return Eingabe_Zweimal();
     if (const int Status = Bild_Laden_Von(Dateien[0]); Status != Status_Fertig)
         return Status;
     const Strom_Datei Zweite(Dateien[1], Strom_Datei::Richtung::Eingabe);
+    if (!Zweite.Bereit())
+        return Status_Datei;
     Modus       = Modus_Hex;
     Dialog_Name = Zweite.Pfad();
     if (!Datei_Gefunden())
         return Status_Datei;
     const auto Unterschied = Hexdaten_Vergleichen();
+    // A source can't be compared; the image then is the same as before, and that is the verdict.
+    if (Datei_Fehler != Dateifehler::Keiner && Datei_Fehler != Dateifehler::Abgelehnt)
+        return Status_Der_Datei();
     if (Unterschied)
-        std::cout << fmt::format("{:X}h\n", *Unterschied);
-    if (const int Status = Status_Der_Datei(); Status != Status_Fertig)
-        return Status;
+        std::cout << fmt::format("{:04X}h\n", *Unterschied);
     return Unterschied ? Status_Misslungen : Status_Fertig;
 }
 

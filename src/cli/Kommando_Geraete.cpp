@@ -41,7 +41,7 @@ Json Satz_Json(int Nummer)
     return {{"number", Nummer},
             {"group", Gruppe_Von(Nummer)},
             {"name", g.Name},
-            {"menu_name", g.Menue_Name.empty() ? g.Name : g.Menue_Name},
+            {"menu_name", Geraete.Menue_Texte[static_cast<std::size_t>(Nummer)]},
             {"bytes", g.Bytes},
             {"read_type", g.R_Typ},
             {"program_type", g.P_Typ},
@@ -129,7 +129,7 @@ int Devices(const Devices_Optionen& o)
     }
     const int Nummer = Geraet_Suchen(o.Name);
     if (Nummer < 0)
-        return Falsche_Zeile("there is no device " + o.Name + " in Spec.ini");
+        return Geraet_Unbekannt(o.Name);
     Eins_Ausgeben(Nummer, o.Mit_Json);
     return Status_Fertig;
 }

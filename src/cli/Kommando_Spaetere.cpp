@@ -26,7 +26,13 @@ void Spaetere_Anmelden(Kommandozeile& Zeile)
     for (const Spaeteres_Kommando& k : Spaetere) {
         const std::string Name = k.Name;
         Zeile
-            .Kommando(Name, k.Text, [Name] { return Falsche_Zeile(Name + ": not available yet"); })
+            .Kommando(Name,
+                      k.Text,
+                      [Name] {
+                          return Falsche_Zeile(
+                              {Name + ": noch nicht verfügbar", Name + ": not available yet"});
+                      })
+            ->fallthrough(false) // their options are still unknown
             ->allow_extras();
     }
 }

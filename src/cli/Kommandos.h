@@ -3,6 +3,7 @@
 #pragma once
 
 #include "cli/Konsole.h"
+#include "core/messages.h"
 
 #include <CLI/CLI.hpp>
 
@@ -40,12 +41,14 @@ std::string Handbuch_Seite(const CLI::App& App);
 // The status that the outcome of the last load or save asks for.
 int Status_Der_Datei();
 // Prints an error of the command line itself; the result is Status_Falsch.
-int Falsche_Zeile(const std::string& Text);
+int Falsche_Zeile(const Text_Paar& Text);
 
 // Reads the device database; the result is a Status_T value, the error is printed.
 int Geraete_Lesen();
-// The same, and selects a device by name; Status_Falsch when there is no such device or the board
-// can't serve it. An empty name selects none and reads nothing.
+// There is no such device: the error, and Status_Falsch.
+int Geraet_Unbekannt(const std::string& Name);
+// Reads the database and selects a device by name; Status_Falsch when there is no such device or
+// the board can't serve it. An empty name selects none and reads nothing.
 int Geraet_Waehlen(const std::string& Name);
 
 } // namespace varnholt

@@ -35,9 +35,10 @@ void Auf_Fehlerausgabe(std::string_view Text)
 
 int Konsolen_Box::Zeigen(const Meldung_T& Meldung)
 {
-    const bool Frage = Meldung.Tasten != Knoepfe::Ok;
-    Frage_Gestellt   = Frage_Gestellt || Frage;
-    Auf_Fehlerausgabe(Frage ? "error: " + Meldung.Text : Meldung.Text);
+    const bool Frage        = Meldung.Tasten != Knoepfe::Ok;
+    Frage_Gestellt          = Frage_Gestellt || Frage;
+    const std::string Titel = Meldung.Titel.empty() ? std::string{} : Meldung.Titel + ": ";
+    Auf_Fehlerausgabe((Frage ? "error: " : "") + Titel + Meldung.Text);
     return Frage ? Antwort_Abbrechen : Antwort_Ok;
 }
 
@@ -90,7 +91,16 @@ Konsole_T::Konsole_T()
     Plattform.Ereignisse = &Ereignisse;
     Plattform.Edit       = &Edit;
     Plattform.Notiz      = &Notiz;
-    std::signal(SIGINT, Unterbrechung);
 }
+
+void Unterbrechung_Annehmen()
+{
+    struct sigaction Art = {};
+    Art.sa_handler       = Unterbrechung;
+    Art.sa_flags         = SA_RESETHAND; // the second one ends the program
+    sigaction(SIGINT, &Art, nullptr);
+}
+
+bool Unterbrochen_Worden() { return Unterbrochen != 0; }
 
 } // namespace varnholt

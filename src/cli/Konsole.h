@@ -42,7 +42,12 @@ public:
     void Titel(int, std::string_view) override {}
 };
 
-// The terminal's world; puts itself behind the wall. An interrupt (Ctrl C) is the cancel button.
+// From now on an interrupt (Ctrl C) is the cancel button, so that a device is left in an orderly
+// state; a second one ends the program.
+void Unterbrechung_Annehmen();
+bool Unterbrochen_Worden();
+
+// The terminal's world; puts itself behind the wall.
 struct Konsole_T {
     Konsole_T();
     Konsolen_Box        Box{};

@@ -13,10 +13,19 @@
 #include "programmer/Simulierte_Boards.h"
 #include "programmer/Special.h"
 
+#include <iostream>
+
 namespace varnholt {
 namespace {
 
 constexpr std::int32_t Hoechste_Adresse = 0xFFF8; // eight registers must have room above it
+
+int Spur_Fehlt()
+{
+    Auf_Fehlerausgabe(In_Sprache(
+        {"Die Aufzeichnung kann nicht geschrieben werden.", "The trace can't be written."}));
+    return Status_Datei;
+}
 
 } // namespace
 
@@ -27,7 +36,8 @@ int Port_Wahl::Simuliert(const std::string& Datei)
 {
     Board = Simuliertes_Board_Fuer(IC_Nummer);
     if (!Board)
-        return Falsche_Zeile("the simulated board of this device is not available yet");
+        return Falsche_Zeile({"Das simulierte Board dieses IC ist noch nicht verfügbar",
+                              "the simulated board of this device is not available yet"});
     Plattform.Port = Board.get();
     if (Datei.empty() || IC_Nummer < 0)
         return Status_Fertig;
@@ -43,11 +53,12 @@ int Port_Wahl::Simuliert(const std::string& Datei)
 int Port_Wahl::Direkt(const std::string& Adresse)
 {
     std::string_view Ziffern = Adresse;
-    if (Ziffern.starts_with("0x"))
+    if (Ziffern.starts_with("0x") || Ziffern.starts_with("0X"))
         Ziffern.remove_prefix(2);
     const std::int32_t Wert = Ziffern.empty() ? -1 : Hex_zu_Wert(Ziffern);
     if (Wert <= 0 || Wert > Hoechste_Adresse)
-        return Falsche_Zeile("io: wants the base address of a port, as io:378");
+        return Falsche_Zeile({"io: braucht die Basisadresse eines Ports, wie io:378",
+                              "io: wants the base address of a port, as io:378"});
     Port_Basis     = Wert;
     Echter         = std::make_unique<Port_direkt>();
     Plattform.Port = Echter.get();
@@ -67,8 +78,9 @@ int Port_Wahl::Art_Waehlen(const std::string& Port)
         Plattform.Port = Echter.get();
         return Status_Fertig;
     }
-    return Falsche_Zeile("there is no port " + Port +
-                         " (sim, sim:FILE, ppdev:/dev/parport0 or io:378)");
+    const std::string Arten = " (sim, sim:FILE, ppdev:/dev/parport0, io:378)";
+    return Falsche_Zeile(
+        {"Es gibt keinen Port " + Port + Arten, "there is no port " + Port + Arten});
 }
 
 int Port_Wahl::Oeffnen(const std::string& Port, const std::string& Spur_Datei)
@@ -76,24 +88,25 @@ int Port_Wahl::Oeffnen(const std::string& Port, const std::string& Spur_Datei)
     if (const int Status = Art_Waehlen(Port); Status != Status_Fertig)
         return Status;
     if (!Spur_Datei.empty()) {
-        Spur.open(Spur_Datei == "-" ? "/dev/stdout" : Spur_Datei, std::ios::binary);
-        if (!Spur) {
-            Auf_Fehlerausgabe(Spur_Datei + ": the trace can't be written");
-            return Status_Datei;
-        }
-        Schreiber      = std::make_unique<Aufzeichnung>(*Plattform.Port, Spur);
+        if (Spur_Datei != "-")
+            Spur.open(Spur_Datei, std::ios::binary);
+        if (!Spur)
+            return Spur_Fehlt();
+        Strom          = Spur_Datei == "-" ? &std::cout : &Spur;
+        Schreiber      = std::make_unique<Aufzeichnung>(*Plattform.Port, *Strom);
         Plattform.Port = Schreiber.get();
     }
+    Unterbrechung_Annehmen();
     Porttreiber_Laden();
     return Porttreiber_OK ? Status_Fertig : Status_Misslungen;
 }
 
 int Port_Wahl::Schliessen(int Status)
 {
-    if (Schreiber && !(Schreiber->Abschliessen() && Spur.flush())) {
-        Auf_Fehlerausgabe("the trace can't be written");
-        Status = Status_Datei;
-    }
+    if (Unterbrochen_Worden())
+        Auf_Fehlerausgabe(In_Sprache({"Abgebrochen.", "Cancelled."}));
+    if (Schreiber && !(Schreiber->Abschliessen() && Strom->flush()))
+        Status = Spur_Fehlt();
     if (Board && !Sockel_Datei.empty()) {
         const Text_Paar Fehler = Sockel_Speichern(*Board, Sockel_Datei);
         if (!Fehler.E.empty()) {

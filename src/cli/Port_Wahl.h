@@ -37,6 +37,7 @@ private:
     std::unique_ptr<Porttreiber>       Echter;
     std::filesystem::path              Sockel_Datei{};
     std::ofstream                      Spur{};
+    std::ostream*                      Strom = nullptr; // where the trace goes
     std::unique_ptr<Aufzeichnung>      Schreiber;
 };
 

@@ -18,12 +18,20 @@ namespace {
 int Laden(const std::string& Name, int Neuer_Modus)
 {
     const Strom_Datei Datei(Name, Strom_Datei::Richtung::Eingabe);
+    if (!Datei.Bereit())
+        return Status_Datei;
     Modus       = Neuer_Modus;
     Dialog_Name = Datei.Pfad();
     Datei_Laden();
-    if (Name == "-")
-        Datei_Name.clear();
+    if (Datei.Pfad() != Name)
+        Datei_Name = Name == "-" ? std::string{} : Name;
     return Status_Der_Datei();
+}
+
+int Quelle_Statt_Bild(const std::string& Name)
+{
+    return Falsche_Zeile({Name + " ist ein Quelltext; bitte zuerst assemblieren",
+                          Name + " is a source; assemble it first"});
 }
 
 // Swallows the error box of an assembly, whose text is printed with its place in front.
@@ -51,7 +59,8 @@ private:
 int Quelle_Laden(const std::string& Name)
 {
     if (Typ_Beim_Laden(Name, Modus_MC) != Dateityp::Quelltext)
-        return Falsche_Zeile(Name + " is an image, not a source");
+        return Falsche_Zeile(
+            {Name + " ist ein Abbild und kein Quelltext", Name + " is an image, not a source"});
     const int Status     = Laden(Name, Modus_MC);
     Quell_Datei.Original = {}; // the source is never saved here
     return Status;
@@ -77,24 +86,37 @@ bool Quelle_Assemblieren(const std::string& Name, bool Debug)
 int Bild_Laden_Von(const std::string& Name)
 {
     if (Ist_Quelle(Name))
-        return Falsche_Zeile(Name + " is a source; assemble it first");
+        return Quelle_Statt_Bild(Name);
     return Laden(Name, Modus_Hex);
 }
 
 int Bild_Importieren_Von(const std::string& Name, std::int32_t Adresse)
 {
     if (Ist_Quelle(Name))
-        return Falsche_Zeile(Name + " is a source; assemble it first");
+        return Quelle_Statt_Bild(Name);
     const Strom_Datei Datei(Name, Strom_Datei::Richtung::Eingabe);
+    if (!Datei.Bereit())
+        return Status_Datei;
     Modus       = Modus_Hex;
     Dialog_Name = Datei.Pfad();
     Datei_Importieren(Adresse);
     return Status_Der_Datei();
 }
 
+int Bildname_Pruefen(const std::string& Name)
+{
+    if (!Hat_Quell_Endung(Name))
+        return Status_Fertig;
+    return Falsche_Zeile({Name + " ist der Name eines Quelltextes und nicht der eines Abbilds",
+                          Name + " is the name of a source, not of an image"});
+}
+
 int Bild_Speichern_Unter(const std::string& Name)
 {
     const Strom_Datei Datei(Name, Strom_Datei::Richtung::Ausgabe);
+    if (!Datei.Bereit())
+        return Status_Datei;
+    Plattform.Notiz->Text_Setzen({}); // the notes of the input are not those of the output
     Modus      = Modus_Hex;
     Datei_Name = Datei.Pfad();
     Datei_Speichern();
@@ -108,13 +130,9 @@ bool Ist_Quelle(const std::string& Name)
     return Typ_Beim_Laden(Name, Modus_Hex) == Dateityp::Quelltext;
 }
 
-int Quelle_Oder_Bild_Laden(const std::string& Name)
+bool Hat_Quell_Endung(const std::string& Name)
 {
-    if (!Ist_Quelle(Name))
-        return Bild_Laden_Von(Name);
-    if (const int Status = Quelle_Laden(Name); Status != Status_Fertig)
-        return Status;
-    return Quelle_Assemblieren(Name, false) ? Status_Der_Datei() : Status_Misslungen;
+    return !Name.empty() && Name_Zu_Erfragen(Name, Modus_Hex);
 }
 
 } // namespace varnholt

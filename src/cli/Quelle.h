@@ -14,11 +14,14 @@ int Quelle_Laden(const std::string& Name);
 int Bild_Laden_Von(const std::string& Name);
 // The same as an import at that address, over what is there.
 int Bild_Importieren_Von(const std::string& Name, std::int32_t Adresse);
+// An image is not saved over a source: Status_Falsch, with the error, for a name with a source
+// extension.
+int Bildname_Pruefen(const std::string& Name);
 // Saves the image in the format of the name's extension; the result is a Status_T value.
 int Bild_Speichern_Unter(const std::string& Name);
-// The name has a source extension (.asm, .a51; .txt counts as data where an image is loaded).
+// The file is a source where an image is loaded (.asm, .a51).
 bool Ist_Quelle(const std::string& Name);
-// A file of either kind: a source is assembled, an image is loaded.
-int Quelle_Oder_Bild_Laden(const std::string& Name);
+// The name has a source extension (.asm, .a51, .txt).
+bool Hat_Quell_Endung(const std::string& Name);
 
 } // namespace varnholt

@@ -11,8 +11,8 @@
 #include <exception>
 #include <iostream>
 #include <malloc.h>
-#include <unistd.h>
 #include <utility>
+#include <vector>
 
 #ifndef VARNHOLT_VERSION
 #define VARNHOLT_VERSION "0.0.0"
@@ -61,6 +61,18 @@ void Anmelden(Kommandozeile& Zeile)
     Spaetere_Anmelden(Zeile);
 }
 
+// The arguments as the parser takes them, the last one first. A name in brackets would be split
+// into a list there, so that it is written as a path.
+std::vector<std::string> Argumente_Umgekehrt(int argc, char** argv)
+{
+    std::vector<std::string> Argumente;
+    for (int i = argc - 1; i > 0; --i) {
+        const std::string a = argv[i];
+        Argumente.push_back(a.starts_with('[') && a.ends_with(']') ? "./" + a : a);
+    }
+    return Argumente;
+}
+
 int Ausfuehren(int argc, char** argv)
 {
     Kommandozeile Zeile;
@@ -70,7 +82,7 @@ int Ausfuehren(int argc, char** argv)
         return Status_Fertig;
     }
     try {
-        Zeile.App.parse(argc, argv);
+        Zeile.App.parse(Argumente_Umgekehrt(argc, argv));
     } catch (const CLI::ParseError& Fehler) {
         return Zeile.App.exit(Fehler) == 0 ? Status_Fertig : Status_Falsch;
     }
@@ -107,21 +119,26 @@ int Status_Der_Datei()
     return Status_Misslungen;
 }
 
-int Falsche_Zeile(const std::string& Text)
+int Falsche_Zeile(const Text_Paar& Text)
 {
-    Auf_Fehlerausgabe("varnholt-cli: " + Text);
+    Auf_Fehlerausgabe("varnholt-cli: " + In_Sprache(Text));
     return Status_Falsch;
 }
 
 int Geraete_Lesen()
 {
-    Spec_Lesen();
-    const std::string Datei = Programm_Pfad + "Spec.ini";
-    if (access(Datei.c_str(), R_OK) == 0)
+    if (Spec_Lesen())
         return Status_Fertig;
     if (Sprache == "E") // the message of a missing file exists in German only
-        Auf_Fehlerausgabe(Datei + ": the device database is missing or can't be read");
+        Auf_Fehlerausgabe(Programm_Pfad +
+                          "Spec.ini: the device database is missing or can't be read");
     return Status_Datei;
+}
+
+int Geraet_Unbekannt(const std::string& Name)
+{
+    return Falsche_Zeile({"In Spec.ini gibt es kein IC " + Name + ".",
+                          "there is no device " + Name + " in Spec.ini"});
 }
 
 int Geraet_Waehlen(const std::string& Name)
@@ -132,7 +149,7 @@ int Geraet_Waehlen(const std::string& Name)
         return Status;
     const int Nummer = Geraet_Suchen(Name);
     if (Nummer < 0)
-        return Falsche_Zeile("there is no device " + Name + " in Spec.ini");
+        return Geraet_Unbekannt(Name);
     IC_Waehlen(Nummer);
     return std::exchange(Abbruch, false) ? Status_Falsch : Status_Fertig;
 }

@@ -43,10 +43,14 @@ fs::path Installierte_Dateien()
     return {};
 }
 
+// The user's data folder; empty where the environment names none by an absolute path.
 fs::path Benutzer_Ordner()
 {
     const fs::path Daten = Umgebung("XDG_DATA_HOME");
-    return (Daten.empty() ? Umgebung("HOME") / ".local/share" : Daten) / "varnholt";
+    if (Daten.is_absolute())
+        return Daten / "varnholt";
+    const fs::path Heim = Umgebung("HOME");
+    return Heim.is_absolute() ? Heim / ".local/share/varnholt" : fs::path{};
 }
 
 // The entry of a folder with that name; without one the first whose name differs only in case,
@@ -102,8 +106,9 @@ std::string Programm_Pfad_Bestimmen()
     const fs::path  Benutzer = Benutzer_Ordner();
     const fs::path  Vorlage  = Installierte_Dateien();
     std::error_code Fehler;
-    fs::create_directories(Benutzer, Fehler);
-    if (!Vorlage.empty() && !Haelt_Programmdateien(Benutzer))
+    if (!Benutzer.empty())
+        fs::create_directories(Benutzer, Fehler);
+    if (!Benutzer.empty() && !Vorlage.empty() && !Haelt_Programmdateien(Benutzer))
         fs::copy(Vorlage,
                  Benutzer,
                  fs::copy_options::recursive | fs::copy_options::skip_existing,

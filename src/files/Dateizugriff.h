@@ -10,8 +10,11 @@
 
 namespace varnholt {
 
-// Longest text file (source, notes, text formats of the image) that is loaded, in bytes.
+// Longest text file (notes, text formats of the image) that is loaded, in bytes.
 inline constexpr std::uintmax_t Textdatei_Hoechstens = 64ull << 20;
+
+// Longest source text, in bytes: each of its lines costs a row of the assembler.
+inline constexpr std::uintmax_t Quelltext_Hoechstens = 16ull << 20;
 
 // The first bytes of a file, and how long it is.
 struct Datei_Anfang_T {

@@ -4,36 +4,13 @@
 #include "core/messages.h"
 #include "core/shared_state.h"
 #include "language/HexDez.h"
-
-#include <algorithm>
+#include "language/Val.h"
 
 namespace varnholt {
-namespace {
-
-// A decimal number up to the first character that is no digit; 0 without one, and limited to what
-// lies clearly outside the image.
-std::int32_t Dezimal_Lesen(std::string_view Text)
-{
-    Text.remove_prefix(std::min(Text.find_first_not_of(" \t"), Text.size()));
-    const bool Negativ = Text.starts_with('-');
-    if (Negativ || Text.starts_with('+'))
-        Text.remove_prefix(1);
-    std::int32_t Wert = 0;
-    for (const char c : Text) {
-        if (c < '0' || c > '9')
-            break;
-        Wert = std::min(10 * Wert + (c - '0'), Hex_Obergrenze);
-    }
-    return Negativ ? -Wert : Wert;
-}
-
-} // namespace
-
 std::int32_t Import_Adresse_Lesen(std::string_view Eingabe)
 {
     const bool Hexadezimal = Eingabe.ends_with('h') || Eingabe.ends_with('H');
-    return Hexadezimal ? Hex_zu_Wert(Eingabe.substr(0, Eingabe.size() - 1))
-                       : Dezimal_Lesen(Eingabe);
+    return Hexadezimal ? Hex_zu_Wert(Eingabe.substr(0, Eingabe.size() - 1)) : Val(Eingabe);
 }
 
 std::optional<std::int32_t> Import_Adresse_Erfragen()

@@ -157,7 +157,7 @@ void Quelle_Laden()
         Datei_Fehler = Dateifehler::Abgelehnt;
         return;
     }
-    auto Bytes = Ganze_Datei_Lesen(Datei_Name, Textdatei_Hoechstens);
+    auto Bytes = Ganze_Datei_Lesen(Datei_Name, Quelltext_Hoechstens);
     if (!Bytes) {
         Datei_Fehler = Dateifehler::Lesefehler;
         return;

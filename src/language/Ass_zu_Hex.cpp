@@ -90,7 +90,7 @@ void Text_Holen()
 void Zeilen_Vorbereiten()
 {
     for (Zeilen_Index = 0; Zeilen_Index < Zeilen_Anzahl(); ++Zeilen_Index) {
-        Diese_Zeile().Offen.Leeren();
+
         Zeile_Normieren(Diese_Zeile().Text);
         Marke_Abtrennen();
         if (Ist_Include())
@@ -221,11 +221,10 @@ void Offene_Strukturen_Melden()
 
 void Sprungziele_Einsetzen()
 {
-    Code_Ende        = Adress_Zaehler;
-    const int Letzte = Zeilen_Index;
-    Lange_Ziele_Einsetzen(Letzte);
+    Code_Ende = Adress_Zaehler;
+    Lange_Ziele_Einsetzen();
     Plattform.Ereignisse->Eine_Runde();
-    Kurze_Ziele_Einsetzen(Letzte);
+    Kurze_Ziele_Einsetzen();
 }
 
 void Lauf_Beenden()

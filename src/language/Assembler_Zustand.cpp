@@ -65,10 +65,17 @@ void Byte_Setzen(std::int32_t Adresse, std::int32_t Wert)
         Hex_Daten[static_cast<std::size_t>(Adresse)] = static_cast<std::uint8_t>(Wert & 0xFF);
 }
 
+std::uint8_t Byte_An(std::int32_t Adresse)
+{
+    return Adresse >= 0 && Adresse <= Bild_Groesse ? Hex_Daten[static_cast<std::size_t>(Adresse)]
+                                                   : 0xFF;
+}
+
 void Quellzeilen_Loeschen()
 {
     Quell_Zeilen.clear();
     Quell_Texte.clear();
+    Assembler.Offene_Ziele.clear();
     Assembler.Ziel_Texte.Leeren();
 }
 

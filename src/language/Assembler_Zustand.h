@@ -28,20 +28,26 @@ inline constexpr std::string_view Text_Prozessorfile_Fehlt =
 inline constexpr std::string_view Text_Include_Fehlt = "Can't find the include file!";
 
 // Where a source row comes from.
-inline constexpr int Herkunft_Haupttext     = 0;
-inline constexpr int Herkunft_Prozessorfile = 1;
-inline constexpr int Herkunft_Include       = 2;
+inline constexpr std::int8_t Herkunft_Haupttext     = 0;
+inline constexpr std::int8_t Herkunft_Prozessorfile = 1;
+inline constexpr std::int8_t Herkunft_Include       = 2;
 
-// One source row.
+// One source row. There may be a million of them: kept small.
 struct Quell_Zeile {
     Quell_Stueck
         Text{}; // as typed, then normalised; labels and heads are cut away as it is worked on
     Quell_Stueck Marke{};     // label in upper case with its colon, empty without one
-    Quell_Stueck Offen{};     // unresolved target operand, empty if nothing is open
     std::int32_t Adresse = 0; // Adress_Zaehler when the row was reached
-    std::int32_t Versatz = 0; // from Adresse to the instruction that Offen belongs to (one-line IF)
-    std::int32_t Zusatz  = 0; // signed addend of MOV DPTR,#name+n
-    int          Herkunft = 0; // Herkunft_Haupttext, _Prozessorfile or _Include
+    std::int16_t Versatz =
+        0; // from Adresse to the row's instruction (behind the head of a one-line IF)
+    std::int8_t Herkunft = 0; // Herkunft_Haupttext, _Prozessorfile or _Include
+};
+
+// The unresolved target operand of a row.
+struct Offenes_Ziel {
+    Quell_Stueck Offen{};    // as text; emptied when it is put in place
+    std::int32_t Zeile  = 0; // the row
+    std::int32_t Zusatz = 0; // signed addend of MOV DPTR,#name+n
 };
 
 // An included file's rows.
@@ -62,8 +68,9 @@ struct Listen_Zeile {
 // Holds from one assembly to the end of its caller's use.
 inline struct Assembler_T {
     std::vector<Quell_Zeile>     Quell_Zeilen{};
-    std::list<std::string>       Quell_Texte{}; // main text and included files; the rows point in
-    Text_Ablage                  Ziel_Texte{};  // what the rows' open targets point into
+    std::list<std::string>       Quell_Texte{};  // main text and included files; the rows point in
+    std::vector<Offenes_Ziel>    Offene_Ziele{}; // by row
+    Text_Ablage                  Ziel_Texte{};   // what they point into
     std::vector<Include_Eintrag> Include_Liste{};
     std::int32_t                 Code_Ende         = 0; // one past the last address reached
     std::int32_t                 Befehl_Zaehler    = 0; // machine instructions emitted
@@ -174,6 +181,9 @@ struct Assembler_Abbruch {};
 
 // Stores one byte of the image; beyond its upper end it is lost, below address 0 it is an error.
 void Byte_Setzen(std::int32_t Adresse, std::int32_t Wert);
+
+// The byte of the image at that address; FFh outside it.
+std::uint8_t Byte_An(std::int32_t Adresse);
 
 // Frees the source rows; the caller of Assemblieren does so when it has no further use for them.
 void Quellzeilen_Loeschen();

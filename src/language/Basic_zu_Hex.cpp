@@ -183,7 +183,7 @@ void Rest_Wiederholen(std::int32_t Kopf_Bytes)
     Zeile.Text.Vorn_Abnehmen(Zeile.Text.Ansicht().find("THEN") + 4);
     if (Zeile.Text.Ansicht().starts_with(' '))
         Zeile.Text.Vorn_Abnehmen(1);
-    Zeile.Versatz = Kopf_Bytes;
+    Zeile.Versatz = static_cast<std::int16_t>(Kopf_Bytes);
     --Zeilen_Index;
 }
 

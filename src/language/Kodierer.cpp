@@ -58,12 +58,14 @@ bool Wort_Setzen(int Opcode)
     return Setzen(Opcode, Wert_Nr(1) / 256, Wert_Nr(1) % 256);
 }
 
-// Opcode and open target: all of the form behind the first k characters.
-bool Ziel_Setzen(int Opcode, std::size_t k, int Laenge)
+// Opcode and open target: all of the form behind the first k characters. An empty one stays open.
+bool Ziel_Setzen(int Opcode, std::size_t k, int Laenge, std::int32_t Zusatz = 0)
 {
     Setzen(Opcode);
-    Diese_Zeile().Offen = Assembler.Ziel_Texte.Ablegen(Form_Jetzt().substr(k));
-    Befehls_Laenge      = Laenge;
+    if (const std::string_view Ziel = Form_Jetzt().substr(k); !Ziel.empty())
+        Assembler.Offene_Ziele.push_back(
+            {Assembler.Ziel_Texte.Ablegen(Ziel), Zeilen_Index, Zusatz});
+    Befehls_Laenge = Laenge;
     return true;
 }
 
@@ -130,8 +132,7 @@ bool MOV_DPTR()
     if (Vorzeichen != '+' && Vorzeichen != '-')
         return false;
     Form.pop_back();
-    Diese_Zeile().Zusatz = Vorzeichen == '+' ? Wert_Nr(1) : -Wert_Nr(1);
-    return Ziel_Setzen(0x90, Anfang.size(), 3);
+    return Ziel_Setzen(0x90, Anfang.size(), 3, Vorzeichen == '+' ? Wert_Nr(1) : -Wert_Nr(1));
 }
 
 // Mnemonics of the two-byte forms; a group checks its first value before any form is compared.

@@ -22,12 +22,6 @@ void Anfuegen(std::string Text, Listen_Zeile::Art_T Art)
     Lauf.Listen_Zeilen.push_back({Diese_Zeile().Adresse, std::move(Text), Art, false});
 }
 
-std::uint8_t Byte_An(std::int32_t Adresse)
-{
-    return Adresse >= 0 && Adresse <= Bild_Groesse ? Hex_Daten[static_cast<std::size_t>(Adresse)]
-                                                   : 0xFF;
-}
-
 // The three byte columns of a row, joined.
 std::string Spalten(const Listen_Zeile& z)
 {

@@ -102,20 +102,17 @@ std::int32_t Klammer_Adresse(std::string_view Ziel)
     return Wert;
 }
 
-void Wort_Einsetzen(const Quell_Zeile& Zeile, std::string_view Ziel)
+void Wort_Einsetzen(std::int32_t Hier, const Offenes_Ziel& z)
 {
-    std::int32_t Adresse = 0;
-    if (Ziel.starts_with('('))
-        Adresse = Klammer_Adresse(Ziel);
-    else
-        Adresse = Marken_Adresse(Ziel) + Zeile.Zusatz;
-    Sprungziel_Setzen(Zeile.Adresse + 1, Adresse);
+    const std::string_view Ziel = z.Offen;
+    Sprungziel_Setzen(
+        Hier + 1, Ziel.starts_with('(') ? Klammer_Adresse(Ziel) : Marken_Adresse(Ziel) + z.Zusatz);
 }
 
-void Seite_Einsetzen(const Quell_Zeile& Zeile, std::string_view Ziel)
+void Seite_Einsetzen(std::int32_t Hier, const Offenes_Ziel& z)
 {
-    std::int32_t t = Marken_Adresse(Ziel);
-    std::int32_t n = Zeile.Adresse + 2; // the page is that of the next instruction
+    std::int32_t t = Marken_Adresse(z.Offen);
+    std::int32_t n = Hier + 2; // the page is that of the next instruction
     for (std::int32_t Potenz = 1 << 15; Potenz >= 1 << 11; Potenz >>= 1)
         if (t >= Potenz) {
             t -= Potenz;
@@ -126,27 +123,21 @@ void Seite_Einsetzen(const Quell_Zeile& Zeile, std::string_view Ziel)
                "benutzen Sie bei Sprüngen darüber hinaus die LJMP/LCALL Anweisungen.",
                "AJMP/ACALL instruction can only be used within a 2k block! Please use the "
                "LJMP/LCALL instructions for larger jumps.");
-    const std::int32_t Opcode = Hex_Daten[static_cast<std::size_t>(Zeile.Adresse)];
-    Byte_Setzen(Zeile.Adresse, Opcode + (t / 256) * 32);
-    Byte_Setzen(Zeile.Adresse + 1, t % 256);
+    Byte_Setzen(Hier, Byte_An(Hier) + (t / 256) * 32);
+    Byte_Setzen(Hier + 1, t % 256);
 }
 
-bool Im_Bild(std::int32_t Adresse) { return Adresse >= 0 && Adresse <= Bild_Groesse; }
-
-void Lange_Zeile(Quell_Zeile& Zeile)
+// A 16-bit or page target at address Hier; a relative one stays open.
+void Langes_Ziel(std::int32_t Hier, Offenes_Ziel& z)
 {
-    if (!Im_Bild(Zeile.Adresse))
-        return;
-    const std::uint8_t Opcode = Hex_Daten[static_cast<std::size_t>(Zeile.Adresse)];
-    const bool         Wort   = Opcode == 0x02 || Opcode == 0x12 || Opcode == 0x90;
-    if (!Wort && Opcode != 0x01 && Opcode != 0x11)
-        return;
-    const std::string_view Ziel = Zeile.Offen;
-    Zeile.Offen.Leeren();
-    if (Wort)
-        Wort_Einsetzen(Zeile, Ziel);
+    const std::uint8_t Opcode = Byte_An(Hier);
+    if (Opcode == 0x02 || Opcode == 0x12 || Opcode == 0x90)
+        Wort_Einsetzen(Hier, z);
+    else if (Opcode == 0x01 || Opcode == 0x11)
+        Seite_Einsetzen(Hier, z);
     else
-        Seite_Einsetzen(Zeile, Ziel);
+        return;
+    z.Offen.Leeren();
 }
 
 // Length of the branch by the row's mnemonic, 0 for none that branches.
@@ -173,33 +164,31 @@ int Sprung_Laenge(std::string_view Text, std::uint8_t Opcode)
     return 0;
 }
 
-void Kurze_Zeile(const Quell_Zeile& Zeile)
+void Kurzes_Ziel(std::int32_t Hier, Offenes_Ziel& z)
 {
-    std::string_view Ziel = Zeile.Offen;
+    std::string_view Ziel = z.Offen;
     if (Ziel.starts_with(' '))
         Ziel.remove_prefix(1);
-    const std::int32_t d = Marken_Adresse(Ziel) - Zeile.Adresse;
+    const std::int32_t d = Marken_Adresse(Ziel) - Hier;
     if (d > 129 || d < -126)
         Fehler("Sprungziel liegt außerhalb des -128/+127 Byte Rahmen!",
                "Jump-target is out of -128/+127 Byte frame!");
-    const std::uint8_t Opcode =
-        Im_Bild(Zeile.Adresse) ? Hex_Daten[static_cast<std::size_t>(Zeile.Adresse)] : 0;
-    const int Laenge = Sprung_Laenge(Zeile.Text, Opcode);
+    const int Laenge = Sprung_Laenge(Diese_Zeile().Text, Byte_An(Hier));
     if (Laenge > 0)
-        Byte_Setzen(Zeile.Adresse + Laenge - 1, d - Laenge);
+        Byte_Setzen(Hier + Laenge - 1, d - Laenge);
 }
 
-// Runs Arbeit over every row with an open target, its Adresse raised to the instruction meanwhile:
-// a one-line IF with a label of its own is a target at its instruction then.
-template <class Arbeit_T> void Offene_Zeilen(int Letzte, Arbeit_T Arbeit)
+// Runs Arbeit over every open target, the row's Adresse raised to its instruction meanwhile: a
+// one-line IF with a label of its own is a target at its instruction then.
+void Offene_Ziele(void (*Arbeit)(std::int32_t, Offenes_Ziel&))
 {
-    for (Zeilen_Index = 0; Zeilen_Index <= Letzte && Zeilen_Index < Zeilen_Anzahl();
-         ++Zeilen_Index) {
-        Quell_Zeile& Zeile = Diese_Zeile();
-        if (Zeile.Offen.empty())
+    for (Offenes_Ziel& z : Assembler.Offene_Ziele) {
+        if (z.Offen.empty())
             continue;
+        Zeilen_Index       = z.Zeile;
+        Quell_Zeile& Zeile = Diese_Zeile();
         Zeile.Adresse += Zeile.Versatz;
-        Arbeit(Zeile);
+        Arbeit(Zeile.Adresse, z);
         Zeile.Adresse -= Zeile.Versatz;
     }
 }
@@ -227,8 +216,8 @@ void Sprungziel_Setzen(std::int32_t Adresse, std::int32_t Ziel)
     Byte_Setzen(Adresse + 1, Ziel % 256);
 }
 
-void Lange_Ziele_Einsetzen(int Letzte) { Offene_Zeilen(Letzte, Lange_Zeile); }
+void Lange_Ziele_Einsetzen() { Offene_Ziele(Langes_Ziel); }
 
-void Kurze_Ziele_Einsetzen(int Letzte) { Offene_Zeilen(Letzte, Kurze_Zeile); }
+void Kurze_Ziele_Einsetzen() { Offene_Ziele(Kurzes_Ziel); }
 
 } // namespace varnholt

@@ -13,9 +13,9 @@ void Marke_Abtrennen();
 // error.
 void Sprungziel_Setzen(std::int32_t Adresse, std::int32_t Ziel);
 
-// Fills the open targets of rows 0 to Letzte: first 16-bit and page targets, then relative ones.
-// reads: Quell_Zeilen   sets: Hex_Daten, Offen
-void Lange_Ziele_Einsetzen(int Letzte);
-void Kurze_Ziele_Einsetzen(int Letzte);
+// Fills the open targets: first 16-bit and page targets, then relative ones.
+// reads: Quell_Zeilen, Marken   sets: Hex_Daten, Offene_Ziele
+void Lange_Ziele_Einsetzen();
+void Kurze_Ziele_Einsetzen();
 
 } // namespace varnholt

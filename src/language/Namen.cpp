@@ -169,10 +169,7 @@ void Const_Eintragen()
 
 void Namensart_Pruefen()
 {
-    const std::int32_t Adresse = Adress_Zaehler;
-    if (Adresse < 0 || Adresse > Bild_Groesse)
-        return;
-    const int Verboten = Befehl_Art(Hex_Daten[static_cast<std::size_t>(Adresse)]);
+    const int Verboten = Befehl_Art(Byte_An(Adress_Zaehler));
     Verwendung_Pruefen(Name_Eins, Bit_Eins, Verboten);
     Verwendung_Pruefen(Name_Zwei, Bit_Zwei, Verboten);
 }

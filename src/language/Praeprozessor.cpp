@@ -117,7 +117,7 @@ std::string Rumpf_Einsetzen(std::string&       Davor,
 // A file's bytes and the kind of its rows.
 struct Fund {
     std::optional<std::string> Bytes{};
-    int                        Herkunft = Herkunft_Haupttext;
+    std::int8_t                Herkunft = Herkunft_Haupttext;
 };
 
 // A file that can't be read is a file that isn't there.
@@ -156,7 +156,7 @@ Fund Datei_Finden(std::string_view Name)
 }
 
 // Rows of a text with CR LF ends; a text without any counts as one empty line.
-std::vector<Quell_Zeile> In_Zeilen(std::string& Text, int Herkunft)
+std::vector<Quell_Zeile> In_Zeilen(std::string& Text, std::int8_t Herkunft)
 {
     std::vector<Quell_Zeile> Zeilen;
     std::size_t              Anfang = 0;

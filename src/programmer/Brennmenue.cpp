@@ -8,6 +8,7 @@
 #include "core/shared_state.h"
 #include "language/Assembler_Zustand.h"
 #include "language/HexDez.h"
+#include "language/Val.h"
 #include "programmer/Baustein.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/CheckIC.h"
@@ -68,7 +69,7 @@ void DAT00_Text_Setzen()
 void IC_Felder_Rechnen()
 {
     DAT00_Text_Setzen();
-    const std::int64_t Letzte = std::int64_t{Feld_Wert(B.BR_EBA_D)} + Feld_Wert(B.ED_IBA_D) - 1;
+    const std::int64_t Letzte = std::int64_t{Val(B.BR_EBA_D)} + Val(B.ED_IBA_D) - 1;
     B.Brennen_Aktiv           = Letzte <= Nutzbare_Bytes(Gewaehltes_Geraet()) - 1;
     Paar_Zeigen(B.BR_LBA_H, B.BR_LBA_D, Letzte);
     if (B.Brennen_Aktiv)
@@ -79,7 +80,7 @@ void IC_Felder_Rechnen()
 
 void Editor_Felder_Rechnen()
 {
-    const std::int64_t Weite = std::int64_t{Feld_Wert(B.ED_LBA_D)} - Feld_Wert(B.ED_EBA_D);
+    const std::int64_t Weite = std::int64_t{Val(B.ED_LBA_D)} - Val(B.ED_EBA_D);
     B.Brennen_Aktiv          = Weite >= 0;
     if (Weite < 0) {
         Paar_Text(B.ED_IBA_H, B.ED_IBA_D, {"FEHLER", "ERROR"});
@@ -175,7 +176,7 @@ void H_Geaendert(std::string& H, std::string& D, std::string_view Text)
 void D_Geaendert(std::string& H, std::string& D, std::string_view Text)
 {
     D = Text;
-    H = Feld_Hex(Feld_Wert(D));
+    H = Feld_Hex(Val(D));
 }
 
 // Assembles a stale source; the source lines are the debugger's only, so they go again.

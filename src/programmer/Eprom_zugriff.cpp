@@ -6,6 +6,7 @@
 #include "core/messages.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
+#include "language/Val.h"
 #include "programmer/Baustein.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Brennmenue.h"
@@ -57,9 +58,9 @@ void Lauf_Einrichten()
     const Geraet_T& g = Gewaehltes_Geraet();
     Adresse_Zaehler   = 0;
     Versuch           = 1;
-    Ab_Adresse        = Feld_Wert(Brennmenue.BR_EBA_D);
-    Versatz           = std::int64_t{Ab_Adresse} - Feld_Wert(Brennmenue.ED_EBA_D);
-    Bis_Adresse       = No_FF ? Feld_Wert(Brennmenue.BR_LBA_D) : Nutzbare_Bytes(g) - 1;
+    Ab_Adresse        = Val(Brennmenue.BR_EBA_D);
+    Versatz           = std::int64_t{Ab_Adresse} - Val(Brennmenue.ED_EBA_D);
+    Bis_Adresse       = No_FF ? Val(Brennmenue.BR_LBA_D) : Nutzbare_Bytes(g) - 1;
     Bis_Adresse       = std::min(Bis_Adresse, Nutzbare_Bytes(g) - 1);
     Puls_an_C2        = g.P_Typ == "27C010" || g.P_Typ == "27C020";
     Adj_512           = g.P_Typ == "27C512" ? -1 : 0;

@@ -75,10 +75,11 @@ int Tessel2_Version_Gueltig() { return Tessel2_Version == 0 ? 12 : Tessel2_Versi
 
 int Geraet_Suchen(std::string_view Name)
 {
-    const std::string Gesucht = Nach_UTF8(Gross(Aus_UTF8(Name)));
-    const auto*       p       = std::find_if(Geraete_Tabelle.begin(),
-                                 Geraete_Tabelle.end(),
-                                 [&](const Geraet_T& g) { return g.Name == Gesucht; });
+    const std::string Gesucht = Aus_UTF8(Name);
+    const auto*       p =
+        std::find_if(Geraete_Tabelle.begin(), Geraete_Tabelle.end(), [&](const Geraet_T& g) {
+            return Gleich_Ohne_Fall(Aus_UTF8(g.Name), Gesucht);
+        });
     if (Gesucht.empty() || p == Geraete_Tabelle.end())
         return -1;
     return static_cast<int>(p - Geraete_Tabelle.begin());

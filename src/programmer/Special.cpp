@@ -8,6 +8,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 namespace varnholt {
 namespace {
 
@@ -69,6 +71,7 @@ std::int64_t Maschinenzeit()
 // The wait is announced behind the first stamp, so that a clock that jumps over it lets it end.
 void Warte_Mikrosekunden(std::int64_t Dauer)
 {
+    Dauer          = std::min(Dauer, Wartezeit_Hoechstens);
     Stempel_Anfang = Maschinenzeit();
     Plattform.Port->Wartet(Dauer);
     do
@@ -88,6 +91,7 @@ void Warte_Sekunden(double Sekunden)
 
 void Puls_Abwarten(std::int64_t Dauer)
 {
+    Dauer = std::min(Dauer, Wartezeit_Hoechstens);
     Plattform.Port->Wartet(Dauer);
     do
         Puls_Jetzt = Maschinenzeit();

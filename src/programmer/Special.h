@@ -21,6 +21,9 @@ static_assert(!Wartezeit_Um(5, 5, 0) && Wartezeit_Um(5, 6, 0));
 static_assert(!Wartezeit_Um(0, 10, 10) && Wartezeit_Um(0, 11, 10));
 static_assert(Wartezeit_Um(0x7FFFFFFF, 0x80000000, 1000000));
 
+// Longest wait, microseconds (18 minutes): the stamps' low halves can tell no longer one apart.
+inline constexpr std::int64_t Wartezeit_Hoechstens = 1 << 30;
+
 // Opens the driver and unlocks the three port registers; a failure is shown and leaves the program
 // without a port.
 // reads: Port_Basis   sets: Porttreiber_OK, Eichwert, Treiber_Ergebnis, Antwort

@@ -6,6 +6,7 @@
 #include "core/paths.h"
 #include "core/shared_state.h"
 #include "files/Textdatei.h"
+#include "language/Val.h"
 
 #include <fmt/format.h>
 
@@ -259,23 +260,6 @@ void Tabelle_Leeren()
 
 } // namespace
 
-std::int32_t Val(std::string_view Text)
-{
-    Text.remove_prefix(std::min(Text.find_first_not_of(" \t"), Text.size()));
-    const bool Negativ = Text.starts_with('-');
-    if (Negativ || Text.starts_with('+'))
-        Text.remove_prefix(1);
-    using Grenzen     = std::numeric_limits<std::int32_t>;
-    std::int64_t Wert = 0;
-    for (const char c : Text) {
-        if (c < '0' || c > '9')
-            break;
-        Wert = std::min<std::int64_t>(Wert * 10 + (c - '0'), std::int64_t{Grenzen::max()} + 1);
-    }
-    return static_cast<std::int32_t>(Negativ ? -Wert
-                                             : std::min<std::int64_t>(Wert, Grenzen::max()));
-}
-
 void Spec_Auswerten(std::string_view Text)
 {
     Tabelle_Leeren();
@@ -292,13 +276,15 @@ void Spec_Auswerten(std::string_view Text)
                                              "Spec.ini: further notices are not shown."}));
 }
 
-void Spec_Lesen()
+bool Spec_Lesen()
 {
     Tabelle_Leeren();
-    if (auto Bytes = Datei_Lesen(Pfad_Aus_Text(Programm_Pfad + "Spec.ini"), Datei_Hoechstens))
+    auto Bytes = Datei_Lesen(Pfad_Aus_Text(Programm_Pfad + "Spec.ini"), Datei_Hoechstens);
+    if (Bytes)
         Spec_Auswerten(Text_Entschluesseln(std::move(*Bytes)).Text);
     else if (Sprache == "D")
         Melden({"Die Datei Spec.ini ist nicht vorhanden oder fehlerhaft !", {}});
+    return Bytes.has_value();
 }
 
 } // namespace varnholt

@@ -12,20 +12,16 @@ namespace varnholt {
 
 // --- Specifications.cpp ---
 
-// Reads Programm_Pfad + "Spec.ini". A file that isn't there or can't be read gives a message (in
-// German only, as it always did) and leaves the table empty; the program goes on.
+// Reads Programm_Pfad + "Spec.ini"; false when it isn't there, can't be read or is too large: that
+// gives a message, in German only, and leaves the table empty; the program goes on.
 // reads: Programm_Pfad, Sprache   sets: Geraete_Tabelle, Gruppen_Namen, Menue_Texte, IC_Groesse
-void Spec_Lesen();
+bool Spec_Lesen();
 
 // Fills the table from the text of a device database (Windows-1252; CR LF, LF or CR end a line). It
 // takes what it understands: unknown lines don't matter. A record that has no place in the table
 // is left out, and a size that the image can't hold is bounded, each with a notice.
 // reads: Sprache   sets: Geraete_Tabelle, Gruppen_Namen, Gruppen_Belegt, Menue_Texte, IC_Groesse
 void Spec_Auswerten(std::string_view Text);
-
-// The number that a text begins with, behind blanks and with a sign; 0 without digits. What doesn't
-// fit into 32 bits becomes the nearest value that does.
-std::int32_t Val(std::string_view Text);
 
 // --- Geraetewahl.cpp (with IC_Typ_Löschen of core/commands.h) ---
 

@@ -60,7 +60,7 @@ TEST_F(Cli, a_wrong_command_line_is_status_2)
 TEST_F(Cli, the_commands_to_come_say_that_they_are_not_available_yet)
 {
     for (const char* k : {"disassemble", "simulate", "erase", "lock", "clock"}) {
-        const auto r = Laufen({k, "file", "--port", "sim"});
+        const auto r = Laufen({k, "file", "--port", "sim", "--device", "27C64"});
         EXPECT_EQ(r.Status, 2) << k;
         EXPECT_TRUE(Enthaelt(r.Fehler, "not available yet")) << k;
     }
@@ -180,7 +180,7 @@ TEST_F(Cli, debug_assembles_stop_points)
     Schreiben("a.asm", " NOP\n STOP\n#IF DEBUGGING\n INC A\n#END IF\n");
     Laufen({"assemble", "a.asm", "-o", "a.bin"});
     Laufen({"assemble", "a.asm", "-o", "b.bin", "--debug"});
-    EXPECT_EQ(Lesen("a.bin"), "");
+    EXPECT_EQ(Lesen("a.bin").substr(0, 2), std::string("\0\xFF", 2));
     EXPECT_EQ(Lesen("b.bin").substr(0, 3), std::string("\0\xA5\x04", 3));
 }
 
@@ -295,6 +295,84 @@ TEST_F(Cli, an_import_address_outside_the_image_is_status_2)
     EXPECT_FALSE(Da("d.bin"));
 }
 
+TEST_F(Cli, an_address_beyond_every_number_is_outside_too)
+{
+    Schreiben("a.bin", "AA");
+    for (const char* Adresse : {"99999999999", "0x1FFFFFFFF", "80001h"}) {
+        const auto r = Laufen({"convert", std::string("a.bin@") + Adresse, "-o", "d.bin"});
+        EXPECT_EQ(r.Status, 2) << Adresse;
+        EXPECT_EQ(r.Fehler, "varnholt-cli: a.bin: Invalid value\n");
+    }
+    EXPECT_EQ(Laufen({"--language", "D", "convert", "a.bin@600000", "-o", "d.bin"}).Fehler,
+              "varnholt-cli: a.bin: Ungültiger Wert\n");
+}
+
+TEST_F(Cli, an_image_is_never_saved_over_a_source)
+{
+    Schreiben("a.asm", Programm);
+    Schreiben("a.bin", "x");
+    for (const char* Ziel : {"a.asm", "b.a51", "c.TXT"}) {
+        EXPECT_EQ(Laufen({"assemble", "a.asm", "-o", Ziel}).Status, 2) << Ziel;
+        EXPECT_EQ(Laufen({"convert", "a.bin", "-o", Ziel}).Status, 2) << Ziel;
+    }
+    EXPECT_EQ(Lesen("a.asm"), Programm);
+    EXPECT_FALSE(Da("b.a51"));
+}
+
+TEST_F(Cli, the_notes_of_the_input_are_not_written_beside_the_output)
+{
+    Schreiben("a.bin", "x");
+    Schreiben("a.not", "notes of a");
+    Schreiben("b.not", "notes of b");
+    EXPECT_EQ(Laufen({"convert", "a.bin", "-o", "b.bin"}).Status, 0);
+    EXPECT_EQ(Lesen("b.not"), "notes of b");
+}
+
+TEST_F(Cli, a_name_in_brackets_is_a_name)
+{
+    Schreiben("[a,b]", "x");
+    EXPECT_EQ(Laufen({"convert", "[a,b]", "-o", "c.bin"}).Status, 0);
+    EXPECT_EQ(Laufen({"compare", "[a,b]", "[a,b]"}).Status, 0);
+}
+
+TEST_F(Cli, standard_input_can_be_read_once_only)
+{
+    EXPECT_EQ(Laufen({"compare", "-", "-"}, "x").Status, 2);
+    EXPECT_EQ(Laufen({"convert", "-", "-@5", "-o", "c.bin"}, "x").Status, 2);
+    Schreiben("a.bin", "x");
+    EXPECT_EQ(Laufen({"compare", "a.bin", "-"}, "x").Status, 0);
+}
+
+TEST_F(Cli, without_a_folder_for_temporary_files_nothing_is_left_behind)
+{
+    setenv("TMPDIR", "/proc", 1);
+    const auto r = Laufen({"convert", "-", "-o", "c.bin"}, "x");
+    unsetenv("TMPDIR");
+    EXPECT_EQ(r.Status, 3);
+    EXPECT_FALSE(Da("c.bin"));
+    EXPECT_FALSE(Da("stdin"));
+}
+
+TEST_F(Cli, a_source_of_nothing_but_line_ends_is_no_trouble)
+{
+    Schreiben("a.asm", std::string(1 << 20, '\n'));
+    EXPECT_EQ(Laufen({"assemble", "a.asm"}).Status, 0);
+    Schreiben("b.asm", std::string((16u << 20) + 1, '\n'));
+    EXPECT_EQ(Laufen({"assemble", "b.asm"}).Status, 3);
+}
+
+TEST_F(Cli, comparing_with_a_source_tells_both_messages)
+{
+    Schreiben("a.bin", "x");
+    Schreiben("s.asm", " NOP\n");
+    const auto r = Laufen({"compare", "a.bin", "s.asm"});
+    EXPECT_EQ(r.Fehler,
+              "This format can't be compared to the hexdata!\n"
+              "The data of the file is the same as the data of the editor !\n");
+    EXPECT_EQ(r.Status, 0);
+    EXPECT_EQ(Laufen({"compare", "s.asm", "a.bin"}).Status, 2);
+}
+
 TEST_F(Cli, a_long_binary_file_needs_a_half)
 {
     Schreiben("a.bin", std::string(524288, 'A') + "B");
@@ -314,7 +392,7 @@ TEST_F(Cli, a_file_above_a_mebibyte_gives_its_message_and_status_0)
     Schreiben("a.bin", std::string(1048577, 'A'));
     const auto r = Laufen({"convert", "a.bin", "-o", "c.bin"});
     EXPECT_EQ(r.Status, 0);
-    EXPECT_EQ(r.Fehler, "Couldn´t load the file a.bin complete!\n");
+    EXPECT_EQ(r.Fehler, "Filesize over 1048576 Byte: Couldn´t load the file a.bin complete!\n");
     EXPECT_EQ(Lesen("c.bin").size(), 524288u);
 }
 
@@ -383,6 +461,7 @@ TEST_F(Cli, a_missing_database_is_status_3)
 {
     Home = Ordner.string();
     EXPECT_EQ(Laufen({"devices"}).Status, 3);
+    EXPECT_EQ(Laufen({"read", "--device", "27C64", "--port", "sim", "-o", "x.bin"}).Status, 3);
     const auto r = Laufen({"--language", "D", "devices"});
     EXPECT_EQ(r.Status, 3);
     EXPECT_EQ(r.Fehler, "Die Datei Spec.ini ist nicht vorhanden oder fehlerhaft !\n");

@@ -9,7 +9,7 @@ namespace {
 TEST(Import_Adresse, is_decimal_as_far_as_it_goes)
 {
     EXPECT_EQ(Import_Adresse_Lesen("32768"), 32768);
-    EXPECT_EQ(Import_Adresse_Lesen(" 12 34"), 12);
+    EXPECT_EQ(Import_Adresse_Lesen(" 12 34"), 1234);
     EXPECT_EQ(Import_Adresse_Lesen("12abc"), 12);
     EXPECT_EQ(Import_Adresse_Lesen("+7"), 7);
     EXPECT_EQ(Import_Adresse_Lesen("abc"), 0);

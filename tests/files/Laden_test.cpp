@@ -111,7 +111,7 @@ TEST_F(Laden_Welt, a_source_that_can_not_be_read_changes_nothing)
 }
 TEST_F(Laden_Welt, a_text_format_beyond_the_limit_is_refused_with_the_reason)
 {
-    for (const char* Name : {"long.hex", "long.mhx", "long.dat", "long.asm"}) {
+    for (const char* Name : {"long.hex", "long.mhx", "long.dat"}) {
         Dialog_Name = Ordner.Anlegen(Name, "");
         fs::resize_file(Dialog_Name, Textdatei_Hoechstens + 1);
         Datei_Laden();
@@ -120,11 +120,17 @@ TEST_F(Laden_Welt, a_text_format_beyond_the_limit_is_refused_with_the_reason)
                   "The file " + Dialog_Name +
                       " could not be read: it is longer than 67108864 bytes.");
     }
+}
+TEST_F(Laden_Welt, a_source_beyond_its_limit_is_refused_with_the_reason)
+{
+    Dialog_Name = Ordner.Anlegen("long.asm", "");
+    fs::resize_file(Dialog_Name, Quelltext_Hoechstens + 1);
     Sprache = "D";
     Datei_Laden();
+    EXPECT_EQ(Datei_Fehler, Dateifehler::Lesefehler);
     EXPECT_EQ(Box.Hinweise.back(),
               "Die Datei " + Dialog_Name +
-                  " konnte nicht gelesen werden: sie ist länger als 67108864 Byte.");
+                  " konnte nicht gelesen werden: sie ist länger als 16777216 Byte.");
 }
 TEST_F(Laden_Welt, a_load_that_succeeds_clears_the_failure_of_the_one_before)
 {
