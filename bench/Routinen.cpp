@@ -39,11 +39,10 @@ void Zufaelliges_Bild(std::size_t Laenge)
 void BM_Zeile_Normieren(benchmark::State& s)
 {
     const std::string Zeile = "\tmov\ta ,  #12h\t\t; load the accumulator";
+    Text_Ablage       Ablage;
     for (auto _ : s) {
-        std::string  Text = Zeile;
-        Quell_Stueck Stueck(Text.data(), Text.size());
-        Zeile_Normieren(Stueck);
-        benchmark::DoNotOptimize(Stueck);
+        Ablage.Leeren();
+        benchmark::DoNotOptimize(Zeile_Normieren(Zeile, Ablage));
     }
     s.SetItemsProcessed(s.iterations());
 }

@@ -8,6 +8,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <malloc.h>
@@ -166,7 +167,9 @@ int main(int argc, char** argv)
     mallopt(M_MMAP_THRESHOLD, 1 << 30);
     mallopt(M_TRIM_THRESHOLD, 1 << 30);
     try {
-        return varnholt::Ausfuehren(argc, argv);
+        const int Status = varnholt::Ausfuehren(argc, argv);
+        std::fflush(nullptr);
+        std::_Exit(Status); // the state dies with the process, without being taken apart
     } catch (const std::bad_alloc&) {
         std::fputs("varnholt-cli: out of memory\n", stderr);
     } catch (const std::exception& Fehler) {

@@ -67,11 +67,17 @@ public:
 // characters from 0, lines from 0.
 class Textfeld {
 public:
-    virtual ~Textfeld()                                                      = default;
-    virtual std::string Text() const                                         = 0;
-    virtual void        Text_Setzen(std::string Neuer)                       = 0;
-    virtual void        Auswaehlen(std::int64_t Anfang, std::int64_t Laenge) = 0;
-    virtual void        Fokus()                                              = 0;
+    virtual ~Textfeld()              = default;
+    virtual std::string Text() const = 0;
+    // The text for reading only; Puffer holds it where the control has no such text of its own.
+    virtual std::string_view Text_Ansicht(std::string& Puffer) const
+    {
+        Puffer = Text();
+        return Puffer;
+    }
+    virtual void Text_Setzen(std::string Neuer)                       = 0;
+    virtual void Auswaehlen(std::int64_t Anfang, std::int64_t Laenge) = 0;
+    virtual void Fokus()                                              = 0;
 };
 
 // The port driver under the names of the field. A code above 0 is an error of the driver.

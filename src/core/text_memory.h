@@ -9,9 +9,10 @@ namespace varnholt {
 
 class Speicher_Text : public Textfeld {
 public:
-    std::string Text() const override { return Inhalt; }
-    void        Text_Setzen(std::string Neuer) override { Inhalt = std::move(Neuer); }
-    void        Auswaehlen(std::int64_t Anfang, std::int64_t Laenge) override
+    std::string      Text() const override { return Inhalt; }
+    std::string_view Text_Ansicht(std::string&) const override { return Inhalt; }
+    void             Text_Setzen(std::string Neuer) override { Inhalt = std::move(Neuer); }
+    void             Auswaehlen(std::int64_t Anfang, std::int64_t Laenge) override
     {
         Auswahl_Anfang = Anfang;
         Auswahl_Laenge = Laenge;

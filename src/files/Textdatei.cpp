@@ -78,12 +78,24 @@ std::string_view Zeichen_Des_Endes(Zeilenende Ende)
     return CRLF;
 }
 
+// The usual case of a text whose lines end in LF alone.
+std::string Aus_LF(std::string_view Text, std::string Ziel)
+{
+    for (std::size_t LF = Text.find('\n'); LF != std::string_view::npos; LF = Text.find('\n')) {
+        Ziel.append(Text.substr(0, LF)).append(CRLF);
+        Text.remove_prefix(LF + 1);
+    }
+    return Ziel.append(Text);
+}
+
 std::string Mit_CRLF(std::string_view Text, const Enden_T& Zahl)
 {
     if (Zahl.LF == 0 && Zahl.CR == 0)
         return std::string(Text);
     std::string Ziel;
     Ziel.reserve(Text.size() + Zahl.LF + Zahl.CR);
+    if (Zahl.CR == 0 && Zahl.CR_LF == 0)
+        return Aus_LF(Text, std::move(Ziel));
     Zeilenleser Leser(Text);
     for (Textzeile_T Zeile; Leser.Weiter(Zeile);) {
         Ziel += Zeile.Inhalt;

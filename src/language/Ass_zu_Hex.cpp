@@ -54,36 +54,45 @@ void Lauf_Beginnen()
     Befehl_Zaehler = 0;
 }
 
-Quell_Stueck Stueck_Von(std::string& Text, std::size_t Von, std::size_t Bis)
+std::size_t Zeilen_Zaehlen(std::string_view Text)
 {
-    return Bis > Von ? Quell_Stueck(Text.data() + Von, Bis - Von) : Quell_Stueck();
+    std::size_t n = 1;
+    for (std::size_t CR = Text.find('\r'); CR != std::string_view::npos;
+         CR             = Text.find('\r', CR + 1))
+        ++n;
+    return n;
 }
 
-// Rows of a text that ends in a line end to which one more is added. A CR ends a row; the character
-// behind it is taken for the LF.
-void In_Zeilen_Teilen(std::string& Text)
+void Zeile_Anfuegen(std::string_view Roh)
 {
-    std::size_t Zeilen = 1;
-    for (std::size_t CR = Text.find('\r'); CR != std::string::npos; CR = Text.find('\r', CR + 1))
-        ++Zeilen;
-    Quell_Zeilen.reserve(Zeilen);
+    Quell_Zeilen.push_back({.Text = Zeile_Normieren(Roh, Zeilen_Texte)});
+}
+
+// Rows in their normal form of a text behind which one more line end stands. A CR ends a row; the
+// character behind it is taken for the LF.
+void In_Zeilen_Teilen(std::string_view Text)
+{
+    Quell_Zeilen.reserve(Zeilen_Zaehlen(Text));
     std::size_t Anfang = 0;
-    for (std::size_t CR = Text.find('\r'); CR != std::string::npos; CR = Text.find('\r', CR + 1)) {
-        Quell_Zeilen.push_back({.Text = Stueck_Von(Text, Anfang, CR)});
+    for (std::size_t CR = Text.find('\r'); CR != std::string_view::npos;
+         CR             = Text.find('\r', CR + 1)) {
+        Zeile_Anfuegen(CR > Anfang ? Text.substr(Anfang, CR - Anfang) : std::string_view{});
         Anfang = CR + 2;
     }
-    Quell_Zeilen.push_back({.Text = Stueck_Von(Text, Anfang, Text.size())});
+    Zeile_Anfuegen(Text.substr(std::min(Anfang, Text.size())));
 }
 
 void Text_Holen()
 {
-    std::string Text = Plattform.Edit->Text();
-    if (Hat_Makros(Text)) {
-        Text += CRLF;
-        Makros_Einsetzen(Text);
-        Text.resize(Text.size() - (Text.ends_with(CRLF) ? CRLF.size() : 0));
-    }
-    In_Zeilen_Teilen(Quell_Texte.emplace_back(std::move(Text)));
+    std::string            Puffer;
+    const std::string_view Text = Plattform.Edit->Text_Ansicht(Puffer);
+    if (!Hat_Makros(Text))
+        return In_Zeilen_Teilen(Text);
+    std::string Erweitert = std::string(Text) + std::string(CRLF);
+    Makros_Einsetzen(Erweitert);
+    if (Erweitert.ends_with(CRLF))
+        Erweitert.resize(Erweitert.size() - CRLF.size());
+    In_Zeilen_Teilen(Erweitert);
 }
 
 // The rows can grow while the sweep runs: an INCLUDE row becomes its file's first row.
@@ -91,7 +100,8 @@ void Zeilen_Vorbereiten()
 {
     for (Zeilen_Index = 0; Zeilen_Index < Zeilen_Anzahl(); ++Zeilen_Index) {
 
-        Zeile_Normieren(Diese_Zeile().Text);
+        if (Diese_Zeile().Text.empty())
+            continue;
         Marke_Abtrennen();
         if (Ist_Include())
             Include_Lesen();

@@ -74,9 +74,9 @@ std::uint8_t Byte_An(std::int32_t Adresse)
 void Quellzeilen_Loeschen()
 {
     Quell_Zeilen.clear();
-    Quell_Texte.clear();
+
     Assembler.Offene_Ziele.clear();
-    Assembler.Ziel_Texte.Leeren();
+    Zeilen_Texte.Leeren();
 }
 
 void Assembler_Zuruecksetzen()

@@ -8,7 +8,7 @@
 
 #include <array>
 #include <cstdint>
-#include <list>
+
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -35,7 +35,7 @@ inline constexpr std::int8_t Herkunft_Include       = 2;
 // One source row. There may be a million of them: kept small.
 struct Quell_Zeile {
     Quell_Stueck
-        Text{}; // as typed, then normalised; labels and heads are cut away as it is worked on
+        Text{}; // the line in its normal form; labels and heads are cut away as it is worked on
     Quell_Stueck Marke{};     // label in upper case with its colon, empty without one
     std::int32_t Adresse = 0; // Adress_Zaehler when the row was reached
     std::int16_t Versatz =
@@ -67,10 +67,10 @@ struct Listen_Zeile {
 
 // Holds from one assembly to the end of its caller's use.
 inline struct Assembler_T {
-    std::vector<Quell_Zeile>     Quell_Zeilen{};
-    std::list<std::string>       Quell_Texte{};  // main text and included files; the rows point in
+    std::vector<Quell_Zeile> Quell_Zeilen{};
+
     std::vector<Offenes_Ziel>    Offene_Ziele{}; // by row
-    Text_Ablage                  Ziel_Texte{};   // what they point into
+    Text_Ablage                  Zeilen_Texte{}; // what rows and open targets point into
     std::vector<Include_Eintrag> Include_Liste{};
     std::int32_t                 Code_Ende         = 0; // one past the last address reached
     std::int32_t                 Befehl_Zaehler    = 0; // machine instructions emitted
@@ -81,7 +81,7 @@ inline struct Assembler_T {
 } Assembler;
 
 inline constinit auto& Quell_Zeilen      = Assembler.Quell_Zeilen;
-inline constinit auto& Quell_Texte       = Assembler.Quell_Texte;
+inline constinit auto& Zeilen_Texte      = Assembler.Zeilen_Texte;
 inline constinit auto& Include_Liste     = Assembler.Include_Liste;
 inline constinit auto& Code_Ende         = Assembler.Code_Ende;
 inline constinit auto& Befehl_Zaehler    = Assembler.Befehl_Zaehler;

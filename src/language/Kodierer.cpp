@@ -63,8 +63,7 @@ bool Ziel_Setzen(int Opcode, std::size_t k, int Laenge, std::int32_t Zusatz = 0)
 {
     Setzen(Opcode);
     if (const std::string_view Ziel = Form_Jetzt().substr(k); !Ziel.empty())
-        Assembler.Offene_Ziele.push_back(
-            {Assembler.Ziel_Texte.Ablegen(Ziel), Zeilen_Index, Zusatz});
+        Assembler.Offene_Ziele.push_back({Zeilen_Texte.Ablegen(Ziel), Zeilen_Index, Zusatz});
     Befehls_Laenge = Laenge;
     return true;
 }

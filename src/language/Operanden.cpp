@@ -30,14 +30,23 @@ constexpr Sprung_Befehl Sprung_Befehle[] = {
 
 int Sprungoperand_Finden(std::string_view Zeile)
 {
+    constexpr std::string_view Erste = "JCDLAS"; // what the table's entries begin with
+    if (Zeile.empty() || Erste.find(Zeile.front()) == std::string_view::npos)
+        return Kein_Sprungoperand;
     for (const Sprung_Befehl& b : Sprung_Befehle)
-        if (Zeile.starts_with(b.Anfang.front()) && Zeile.starts_with(b.Anfang))
+        if (Zeile.front() == b.Anfang.front() && Zeile.starts_with(b.Anfang))
             return b.Sprungoperand;
     return Kein_Sprungoperand;
 }
 
 // What a character does to the walk, as bits.
-enum Zeichen_Art : std::uint8_t { Oeffnet = 1, Schliesst = 2, Trennt = 4, Rechnet = 8 };
+enum Zeichen_Art : std::uint8_t {
+    Oeffnet   = 1,
+    Schliesst = 2,
+    Trennt    = 4,
+    Rechnet   = 8,
+    Zitiert   = 16
+};
 
 constexpr std::array<std::uint8_t, 256> Zeichen_Arten = [] {
     std::array<std::uint8_t, 256> t{};
@@ -51,8 +60,11 @@ constexpr std::array<std::uint8_t, 256> Zeichen_Arten = [] {
     Setzen(", #+-*/^)=<>", Schliesst);
     Setzen(",#:(", Trennt); // the next value stands for itself
     Setzen("+-*/^", Rechnet);
+    Setzen("\"", Zitiert);
     return t;
 }();
+
+constexpr bool Ist_Gewoehnlich(char c) { return Zeichen_Arten[static_cast<std::uint8_t>(c)] == 0; }
 
 constexpr bool Ist(char c, Zeichen_Art Art)
 {
@@ -112,6 +124,8 @@ private:
     {
         for (i = 1; i <= Ende; ++i) {
             const char c = Zeichen(i);
+            if (Ist_Gewoehnlich(c) && i <= Laenge_Zeile())
+                continue;
             if (c == '"')
                 Zitat = !Zitat;
             if (Zitat)

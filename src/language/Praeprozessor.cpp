@@ -7,6 +7,7 @@
 #include "core/shared_state.h"
 #include "files/Textdatei.h"
 #include "language/Assembler_Zustand.h"
+#include "language/Zeile_Normieren.h"
 
 #include <filesystem>
 #include <iterator>
@@ -155,18 +156,16 @@ Fund Datei_Finden(std::string_view Name)
     Fehler("Die einzubindene Datei konnte nicht gefunden werden!", std::string(Text_Include_Fehlt));
 }
 
-// Rows of a text with CR LF ends; a text without any counts as one empty line.
-std::vector<Quell_Zeile> In_Zeilen(std::string& Text, std::int8_t Herkunft)
+// Rows in their normal form of a text with CR LF ends; a text without any counts as one empty line.
+std::vector<Quell_Zeile> In_Zeilen(std::string_view Text, std::int8_t Herkunft)
 {
     std::vector<Quell_Zeile> Zeilen;
-    std::size_t              Anfang = 0;
-    while (Anfang < Text.size()) {
-        const std::size_t Ende = std::min(Text.find('\r', Anfang), Text.size());
-        Zeilen.push_back({.Text = {Text.data() + Anfang, Ende - Anfang}, .Herkunft = Herkunft});
-        Anfang = Ende + 2;
+    while (!Text.empty() || Zeilen.empty()) {
+        const std::size_t Ende = std::min(Text.find('\r'), Text.size());
+        Zeilen.push_back(
+            {.Text = Zeile_Normieren(Text.substr(0, Ende), Zeilen_Texte), .Herkunft = Herkunft});
+        Text.remove_prefix(std::min(Ende + 2, Text.size()));
     }
-    if (Zeilen.empty())
-        Zeilen.push_back({.Herkunft = Herkunft});
     return Zeilen;
 }
 
@@ -241,8 +240,8 @@ void Include_Lesen()
     if (Include_Liste.size() >= Includes_Hoechstens)
         Fehler("Es sind höchstens 100 Include-Dateien möglich !",
                "No more than 100 include files are possible !");
-    std::string& Text = Quell_Texte.emplace_back(Text_Entschluesseln(std::move(*f.Bytes)).Text);
-    std::vector<Quell_Zeile> Zeilen = In_Zeilen(Text, f.Herkunft);
+    std::vector<Quell_Zeile> Zeilen =
+        In_Zeilen(Text_Entschluesseln(std::move(*f.Bytes)).Text, f.Herkunft);
     Include_Liste.push_back({Zeilen_Index, static_cast<int>(Zeilen.size())});
     Zeilen_Einsetzen(std::move(Zeilen));
     --Zeilen_Index;

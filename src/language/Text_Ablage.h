@@ -1,4 +1,4 @@
-// Keeps small texts for as long as the source rows live, many in one block of memory.
+// Keeps the texts of the source rows for as long as the rows live, many in one block of memory.
 #pragma once
 
 #include "language/Quell_Stueck.h"
@@ -13,18 +13,28 @@ namespace varnholt {
 
 class Text_Ablage {
 public:
-    // A copy that stays where it is until the store is emptied.
+    // Room for up to Laenge characters, which stays where it is until the store is emptied.
+    // Behalten tells how many of them are used; without it the room is given again.
+    char* Platz_Fuer(std::size_t Laenge)
+    {
+        if (Laenge > Frei) {
+            Frei  = std::max(Block_Groesse, Laenge);
+            Platz = Bloecke.emplace_back(std::make_unique_for_overwrite<char[]>(Frei)).get();
+        }
+        return Platz;
+    }
+    Quell_Stueck Behalten(std::size_t Laenge)
+    {
+        const Quell_Stueck Stueck(Platz, Laenge);
+        Platz += Laenge;
+        Frei -= Laenge;
+        return Stueck;
+    }
+    // A copy of a text.
     Quell_Stueck Ablegen(std::string_view Text)
     {
-        if (Text.size() > Frei) {
-            Frei  = std::max(Block_Groesse, Text.size());
-            Platz = Bloecke.emplace_back(std::make_unique<char[]>(Frei)).get();
-        }
-        char* const Anfang = Platz;
-        std::copy(Text.begin(), Text.end(), Anfang);
-        Platz += Text.size();
-        Frei -= Text.size();
-        return {Anfang, Text.size()};
+        std::copy(Text.begin(), Text.end(), Platz_Fuer(Text.size()));
+        return Behalten(Text.size());
     }
     void Leeren() { *this = {}; }
 
@@ -32,8 +42,8 @@ private:
     static constexpr std::size_t Block_Groesse = 65536;
 
     std::vector<std::unique_ptr<char[]>> Bloecke{};
-    char*                                Platz = nullptr; // next free byte of the last block
-    std::size_t                          Frei  = 0;       // bytes behind it
+    char*                                Platz = nullptr; // next free character of the last block
+    std::size_t                          Frei  = 0;       // characters behind it
 };
 
 } // namespace varnholt

@@ -1,97 +1,85 @@
-// The normal form of a source line. The steps that begin with the second character don't see a
-// quote that is the first one.
+// The normal form of a source line, in one walk. Comment and tabs go by the quotes of the whole
+// line; blanks beside each other and beside commas by those from the second character on, so that a
+// quote that is the first character is not seen by them.
 #include "language/Zeile_Normieren.h"
 
 #include <array>
 #include <cstdint>
-#include <string_view>
 
 namespace varnholt {
 namespace {
 
 constexpr std::array<bool, 256> Besonders = [] {
     std::array<bool, 256> t{};
-    for (const char c : std::string_view("\"';\t"))
+    for (const char c : std::string_view("\"';\t ,"))
         t[static_cast<std::uint8_t>(c)] = true;
     return t;
 }();
 
-// First character from Ab on that the search for a comment has to look at.
-std::size_t Naechstes_Besonderes(std::string_view Text, std::size_t Ab)
-{
-    while (Ab < Text.size() && !Besonders[static_cast<std::uint8_t>(Text[Ab])])
-        ++Ab;
-    return Ab;
-}
+bool Ist_Besonders(char c) { return Besonders[static_cast<std::uint8_t>(c)]; }
 
-// A comment begins at the first ; or ' outside quotes; tabs there are blanks.
-void Kommentar_Abschneiden(Quell_Stueck& Text)
-{
-    bool Zitat = false;
-    for (std::size_t i = Naechstes_Besonderes(Text, 0); i < Text.size();
-         i             = Naechstes_Besonderes(Text, i + 1)) {
-        if (Text[i] == '"') {
-            Zitat = !Zitat;
-        } else if (!Zitat && Text[i] == '\t') {
-            Text[i] = ' ';
-        } else if (!Zitat) {
-            Text.Kuerzen_Auf(i);
-            return;
-        }
-    }
-}
+// The walk: writes the characters that stay.
+class Normierung {
+public:
+    explicit Normierung(char* Ziel) : Anfang(Ziel), Ende(Ziel) {}
 
-void Rand_Abschneiden(Quell_Stueck& Text)
-{
-    std::size_t Ende = Text.size();
-    while (Ende > 0 && Text[Ende - 1] == ' ')
-        --Ende;
-    Text.Kuerzen_Auf(Ende);
-    std::size_t Anfang = 0;
-    while (Anfang < Ende && Text[Anfang] == ' ')
-        ++Anfang;
-    Text.Vorn_Abnehmen(Anfang);
-}
-
-// Outside quotes one blank stays of a run of them, and none beside a comma; the line's first
-// character is left alone.
-void Leerzeichen_Wegnehmen(Quell_Stueck& Text)
-{
-    bool        Zitat = false;
-    std::size_t Ziel  = 1;
-    for (std::size_t i = 1; i < Text.size(); ++i) {
-        const char c      = Text[i];
-        const char Vorige = Text[Ziel - 1];
+    // False at the first character of a comment.
+    bool Nehmen(char c)
+    {
         if (c == '"')
-            Zitat = !Zitat;
-        if (!Zitat && c == ' ' && Ziel > 1 && (Vorige == ' ' || Vorige == ','))
-            continue;
-        if (!Zitat && c == ',' && Vorige == ' ')
-            --Ziel;
-        Text[Ziel++] = c;
-    }
-    Text.Kuerzen_Auf(Ziel);
-}
-
-// A blank with a blank or a comma beside it: only then there is something to take away.
-bool Hat_Freie_Leerzeichen(std::string_view Text)
-{
-    for (std::size_t i = Text.find(' '); i != std::string::npos; i = Text.find(' ', i + 1))
-        if ((i > 0 && Text[i - 1] == ',') ||
-            (i + 1 < Text.size() && (Text[i + 1] == ' ' || Text[i + 1] == ',')))
+            Zitat_Nehmen();
+        else if (!Zitat && (c == ';' || c == '\''))
+            return false;
+        else if (!Zitat && c == '\t')
+            c = ' ';
+        if (c == ' ' && !Innen && Fuellt_Nur())
             return true;
-    return false;
-}
+        if (c == ',' && !Innen && Ende > Anfang && Ende[-1] == ' ')
+            --Ende;
+        *Ende++ = c;
+        return true;
+    }
+    void Uebernehmen(char c) { *Ende++ = c; }
+
+    std::size_t Laenge()
+    {
+        while (Ende > Anfang && Ende[-1] == ' ')
+            --Ende;
+        return static_cast<std::size_t>(Ende - Anfang);
+    }
+
+private:
+    void Zitat_Nehmen()
+    {
+        Zitat = !Zitat;
+        if (Ende > Anfang)
+            Innen = !Innen;
+    }
+    // A blank at the beginning, behind another one or behind a comma that isn't the first
+    // character.
+    bool Fuellt_Nur() const
+    {
+        return Ende == Anfang || Ende[-1] == ' ' || (Ende[-1] == ',' && Ende - Anfang > 1);
+    }
+
+    char* Anfang;
+    char* Ende;
+    bool  Zitat = false; // inside quotes of the whole line
+    bool  Innen = false; // inside quotes that begin with the second character or later
+};
 
 } // namespace
 
-void Zeile_Normieren(Quell_Stueck& Text)
+Quell_Stueck Zeile_Normieren(std::string_view Zeile, Text_Ablage& Ablage)
 {
-    Kommentar_Abschneiden(Text);
-    Rand_Abschneiden(Text);
-    if (!Hat_Freie_Leerzeichen(Text))
-        return;
-    Leerzeichen_Wegnehmen(Text);
+    Normierung n(Ablage.Platz_Fuer(Zeile.size()));
+    for (const char c : Zeile) {
+        if (!Ist_Besonders(c))
+            n.Uebernehmen(c);
+        else if (!n.Nehmen(c))
+            break;
+    }
+    return Ablage.Behalten(n.Laenge());
 }
 
 } // namespace varnholt

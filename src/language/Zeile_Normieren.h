@@ -1,12 +1,14 @@
 // The normal form of a source line.
 #pragma once
 
-#include "language/Quell_Stueck.h"
+#include "language/Text_Ablage.h"
+
+#include <string_view>
 
 namespace varnholt {
 
-// Cuts the comment, turns tabs into blanks, strips and collapses blanks and takes those around
-// commas away; text in double quotes stays as it is.
-void Zeile_Normieren(Quell_Stueck& Text);
+// The line without its comment, tabs turned into blanks, blanks stripped, collapsed and taken away
+// beside commas; text in double quotes stays as it is. The result lies in the store.
+Quell_Stueck Zeile_Normieren(std::string_view Zeile, Text_Ablage& Ablage);
 
 } // namespace varnholt

@@ -38,9 +38,8 @@ protected:
     static std::string Scan(std::string_view Text)
     {
         Quell_Zeilen.assign(1, {});
-        Quell_Texte.assign(1, std::string{Text});
         Zeilen_Index       = 0;
-        Diese_Zeile().Text = {Quell_Texte.back().data(), Text.size()};
+        Diese_Zeile().Text = Zeilen_Texte.Ablegen(Text);
         Zeile_Gross        = Gross(Text);
         try {
             Operanden_Lesen();
