@@ -53,12 +53,11 @@ std::string Programm_Erzeugen(int Zeilen)
 {
     std::string Text;
     Text.reserve(static_cast<std::size_t>(Zeilen) * 33);
-    const int Marken = std::max((Zeilen - 1) / Abschnitt, 1);
+    const int Marken = (Zeilen - 1) / Abschnitt + 1;
     for (int z = 0; z < Zeilen; ++z) {
         if (z % Teil == 0 && z > 0)
             Text += "\torg\t0\n";
-        else
-            Zeile_Anfuegen(Text, z, Marken);
+        Zeile_Anfuegen(Text, z, Marken);
     }
     return Text;
 }

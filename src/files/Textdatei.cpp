@@ -28,10 +28,9 @@ bool Nur_ASCII(std::string_view Bytes)
     return Alle < 0x80;
 }
 
+// The encoding of bytes that aren't all ASCII.
 Kodierung Zeichensatz_Erkennen(std::string_view Bytes)
 {
-    if (Nur_ASCII(Bytes))
-        return Kodierung::UTF8;
     if (!Ist_UTF8(Bytes))
         return Kodierung::Windows_1252;
     return Bytes.starts_with(BOM) ? Kodierung::UTF8_mit_BOM : Kodierung::UTF8;
@@ -105,14 +104,6 @@ std::string Mit_CRLF(std::string_view Text, const Enden_T& Zahl)
     return Ziel;
 }
 
-// The text of the bytes in Windows-1252, every line ended by CR LF. ASCII is the same in both.
-std::string In_1252(std::string_view Bytes, Kodierung Zeichensatz, const Enden_T& Zahl)
-{
-    if (Zeichensatz == Kodierung::Windows_1252 || Nur_ASCII(Bytes))
-        return Mit_CRLF(Bytes, Zahl);
-    return Mit_CRLF(Aus_UTF8(Bytes), Zahl);
-}
-
 std::vector<Textzeile_T> In_Zeilen(std::string_view t)
 {
     std::vector<Textzeile_T> Zeilen;
@@ -180,11 +171,14 @@ const char* Umgebung(const char* Name)
 Textdatei_T Text_Entschluesseln(std::string Bytes)
 {
     Textdatei_T Datei;
-    Datei.Zeichensatz             = Zeichensatz_Erkennen(Bytes);
+    const bool  ASCII             = Nur_ASCII(Bytes); // the same in every encoding
+    Datei.Zeichensatz             = ASCII ? Kodierung::UTF8 : Zeichensatz_Erkennen(Bytes);
     const std::string_view Inhalt = Ohne_BOM(Bytes, Datei.Zeichensatz);
     const Enden_T          Zahl   = Enden_Zaehlen(Inhalt);
     Datei.Ende                    = Haeufigstes(Zahl);
-    Datei.Text                    = In_1252(Inhalt, Datei.Zeichensatz, Zahl);
+    Datei.Text                    = ASCII || Datei.Zeichensatz == Kodierung::Windows_1252
+                                        ? Mit_CRLF(Inhalt, Zahl)
+                                        : Mit_CRLF(Aus_UTF8(Inhalt), Zahl);
     Datei.Original                = std::move(Bytes);
     return Datei;
 }

@@ -54,13 +54,12 @@ void Lauf_Beginnen()
     Befehl_Zaehler = 0;
 }
 
-std::size_t Zeilen_Zaehlen(std::string_view Text)
+// About how many rows a text has, by its beginning; a little too many rather than too few.
+std::size_t Zeilen_Schaetzen(std::string_view Text)
 {
-    std::size_t n = 1;
-    for (std::size_t CR = Text.find('\r'); CR != std::string_view::npos;
-         CR             = Text.find('\r', CR + 1))
-        ++n;
-    return n;
+    const std::string_view Probe = Text.substr(0, 65536);
+    const auto n = static_cast<std::size_t>(std::count(Probe.begin(), Probe.end(), '\r'));
+    return n + 16 + (n + n / 16) * (Text.size() - Probe.size()) / 65536;
 }
 
 void Zeile_Anfuegen(std::string_view Roh)
@@ -72,7 +71,7 @@ void Zeile_Anfuegen(std::string_view Roh)
 // character behind it is taken for the LF.
 void In_Zeilen_Teilen(std::string_view Text)
 {
-    Quell_Zeilen.reserve(Zeilen_Zaehlen(Text));
+    Quell_Zeilen.reserve(Zeilen_Schaetzen(Text));
     std::size_t Anfang = 0;
     for (std::size_t CR = Text.find('\r'); CR != std::string_view::npos;
          CR             = Text.find('\r', CR + 1)) {
