@@ -46,7 +46,8 @@ inline constinit auto& IC_Nummer       = Geraete.IC_Nummer;
 // Size of the selected device in bytes, or of the whole image without one.
 inline std::int32_t IC_Groesse_Gewaehlt()
 {
-    return IC_Groesse[static_cast<std::size_t>(IC_Nummer + 1)];
+    const int Platz = IC_Nummer + 1;
+    return IC_Groesse[static_cast<std::size_t>(Platz)];
 }
 
 // Menu name of the selected device, which is its name where it has no menu name; empty without one.

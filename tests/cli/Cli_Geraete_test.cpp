@@ -1,6 +1,9 @@
 // The command line's device commands on the simulated board.
 #include "cli/Cli_Hilfe.h"
 
+#include <string>
+#include <vector>
+
 namespace varnholt::test {
 namespace {
 
@@ -251,6 +254,49 @@ TEST_F(Cli, devices_of_later_routines_are_not_available_yet)
     }
     EXPECT_EQ(Laufen({"read", "--device", "89C51", "--port", "sim", "-o", "b.bin"}).Status, 2);
     EXPECT_FALSE(Da("b.bin"));
+}
+
+// The command line's own errors, in both languages.
+struct Eigener_Fehler {
+    std::vector<std::string> Zeile;
+    int                      Status;
+    std::string              E, D;
+};
+
+TEST_F(Cli, the_errors_of_the_command_line_come_in_both_languages)
+{
+    Schreiben("a.bin", "ABCD");
+    Schreiben("a.asm", " NOP\n");
+    Schreiben("short", "x");
+    const std::vector<std::string> Check{"check", "a.bin", "--device", "27C64", "--port"};
+    const auto Mit = [](std::vector<std::string> a, const std::vector<std::string>& b) {
+        a.insert(a.end(), b.begin(), b.end());
+        return a;
+    };
+    // clang-format off
+    const std::vector<Eigener_Fehler> Alle = {
+        {{"compare", "a.asm", "a.bin"}, 2, "a.asm is a source; assemble it first", "a.asm ist ein Quelltext; bitte zuerst assemblieren"},
+        {{"assemble", "a.bin"}, 2, "a.bin is an image, not a source", "a.bin ist ein Abbild und kein Quelltext"},
+        {{"convert", "a.bin", "-o", "b.asm"}, 2, "b.asm is the name of a source, not of an image", "b.asm ist der Name eines Quelltextes und nicht der eines Abbilds"},
+        {{"compare", "-", "-"}, 2, "standard input can be read only once", "Die Standardeingabe kann nur einmal gelesen werden"},
+        {{"devices", "X1"}, 2, "there is no device X1 in Spec.ini", "In Spec.ini gibt es kein IC X1."},
+        {{"lock"}, 2, "lock: not available yet", "lock: noch nicht verfügbar"},
+        {Mit(Check, {"usb"}), 2, "there is no port usb", "Es gibt keinen Port usb"},
+        {Mit(Check, {"io:xyz"}), 2, "io: wants the base address of a port, as io:378", "io: braucht die Basisadresse eines Ports, wie io:378"},
+        {Mit(Check, {"sim", "--trace", "no/such/folder"}), 3, "The trace can't be written.", "Die Aufzeichnung kann nicht geschrieben werden."},
+        {Mit(Check, {"sim:short"}), 3, "short: The file doesn't have the size of the device (8192 bytes).", "short: Die Datei hat nicht die Größe des Bausteins (8192 Bytes)."},
+        {{"check", "a.bin", "--device", "89C51", "--port", "sim"}, 2, "this is not available yet for the device 89C51", "Das ist für das IC 89C51 noch nicht verfügbar"},
+        {{"program", "a.bin", "--device", "27C64", "--port", "sim", "--ic-from", "12x"}, 2, "12x is no address", "12x ist keine Adresse"},
+        {{"program", "a.bin", "--device", "27C64", "--port", "sim", "--ic-from", "8190"}, 2, "the range doesn't fit: editor 0 to 3, IC from 8190, IC up to 8191", "Der Bereich passt nicht: Editor 0 bis 3, IC ab 8190, IC bis 8191"},
+        {{"check", "a.bin", "--device", "", "--port", "sim"}, 1, "Please choose first a IC", "Bitte wählen Sie zuerst ein IC"},
+    };
+    // clang-format on
+    for (const Eigener_Fehler& f : Alle) {
+        const auto E = Laufen(f.Zeile);
+        EXPECT_EQ(E.Status, f.Status) << f.E;
+        EXPECT_TRUE(Enthaelt(E.Fehler, f.E)) << E.Fehler;
+        EXPECT_TRUE(Enthaelt(Laufen(Mit({"--language", "D"}, f.Zeile)).Fehler, f.D)) << f.D;
+    }
 }
 
 } // namespace
