@@ -12,8 +12,10 @@ for target in build/fuzz/fuzz/fuzz_*; do
     name=$(basename "$target")
     mkdir -p "build/fuzz/found/$name"
     echo "Fuzzing $name for $seconds s"
+    log=build/fuzz/found/$name.log
     "$target" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=2048 -verbosity=0 \
-        -print_final_stats=0 -artifact_prefix="build/fuzz/found/$name-" \
-        "build/fuzz/found/$name" "fuzz/corpus/$name"
+        -artifact_prefix="build/fuzz/found/$name-" \
+        "build/fuzz/found/$name" "fuzz/corpus/$name" >"$log" 2>&1 ||
+        { tail -n 60 "$log"; echo "$name: a finding, kept in build/fuzz/found" >&2; exit 1; }
 done
 echo "No findings."
