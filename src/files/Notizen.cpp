@@ -24,7 +24,7 @@ bool Vorhanden(const std::string& Name)
 // The file to load, empty when there is none.
 std::string Notiz_Datei_Suchen(bool Mit_RTF)
 {
-    if (const std::string Name = Neben_Dem_Dokument(".not"); Vorhanden(Name))
+    if (std::string Name = Neben_Dem_Dokument(".not"); Vorhanden(Name))
         return Name;
     const std::string Name = Neben_Dem_Dokument(".rtf");
     return Mit_RTF && Vorhanden(Name) ? Name : std::string{};

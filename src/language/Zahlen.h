@@ -65,6 +65,31 @@ constexpr Zahl_Ergebnis Hexadezimal(std::string_view Ziffern)
     return Wert < 0 ? Zahl_Ergebnis{} : Begrenzt(Wert);
 }
 
+// The digits of a number with a leading $ or a trailing H.
+constexpr std::string_view Hex_Ziffern(std::string_view Token)
+{
+    if (Token.starts_with('$'))
+        Token.remove_prefix(1);
+    if (Token.ends_with('H'))
+        Token.remove_suffix(1);
+    return Token;
+}
+
+// Ends in B and is binary by that: always under decimal, under hexadecimal with eight digits.
+constexpr bool Ist_B_Zahl(std::string_view Token, bool Hexadezimal_Gedeutet)
+{
+    return Token.ends_with('B') && (!Hexadezimal_Gedeutet || Token.size() == 9) &&
+           Ist_Binaer(Token.substr(0, Token.size() - 1));
+}
+
+constexpr Zahl_Ergebnis Ohne_Marke(std::string_view Token, bool Hexadezimal_Gedeutet)
+{
+    if (!Hexadezimal_Gedeutet)
+        return Dezimal(Token, true);
+    const std::int32_t Wert = Hex_zu_Wert(Token);
+    return Wert < 0 ? Zahl_Ergebnis{} : Zahl_Ergebnis{Zahl_Ergebnis::Wert_Da, Wert};
+}
+
 } // namespace zahlen_intern
 
 // Value of a token in upper case by the first rule that applies. Without a mark it is read as
@@ -74,26 +99,16 @@ constexpr Zahl_Ergebnis Zahl_Lesen(std::string_view Token, bool Hexadezimal_Gede
     using namespace zahlen_intern;
     if (Token.empty())
         return {Zahl_Ergebnis::Wert_Da, 0};
-    const char             Erstes = Token.front();
-    const std::string_view Rest   = Token.substr(1);
-    if (Erstes == '%')
+    const std::string_view Rest = Token.substr(1);
+    if (Token.front() == '%')
         return Dezimal(Rest, false);
-    if (Erstes == '!')
+    if (Token.front() == '!')
         return Ist_Binaer(Rest) ? Binaer(Rest) : Zahl_Ergebnis{Zahl_Ergebnis::Binaer_Falsch, -1};
-    const std::string_view Ohne_Letztes = Token.substr(0, Token.size() - 1);
-    if (Token.back() == 'B' && (!Hexadezimal_Gedeutet || Token.size() == 9) &&
-        Ist_Binaer(Ohne_Letztes))
-        return Binaer(Ohne_Letztes);
-    if (Erstes == '$' || Token.back() == 'H') {
-        std::string_view Ziffern = Erstes == '$' ? Rest : Token;
-        if (!Ziffern.empty() && Ziffern.back() == 'H')
-            Ziffern.remove_suffix(1);
-        return Hexadezimal(Ziffern);
-    }
-    if (!Hexadezimal_Gedeutet)
-        return Dezimal(Token, true);
-    const std::int32_t Wert = Hex_zu_Wert(Token);
-    return Wert < 0 ? Zahl_Ergebnis{} : Zahl_Ergebnis{Zahl_Ergebnis::Wert_Da, Wert};
+    if (Ist_B_Zahl(Token, Hexadezimal_Gedeutet))
+        return Binaer(Token.substr(0, Token.size() - 1));
+    if (Token.front() == '$' || Token.ends_with('H'))
+        return Hexadezimal(Hex_Ziffern(Token));
+    return Ohne_Marke(Token, Hexadezimal_Gedeutet);
 }
 static_assert(Zahl_Lesen("10B", false).Wert == 2 && Zahl_Lesen("10B", true).Wert == 0x10B);
 static_assert(Zahl_Lesen("5D", false).Wert == 5 && Zahl_Lesen("$H", false).Wert == 0);

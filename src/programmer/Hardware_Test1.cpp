@@ -127,7 +127,7 @@ bool Test1_Datei_Schreiben(const Test1_Ergebnis& Ergebnis)
 Test1_Ergebnis Eprommer_Test1()
 {
     const Geraet_Wahrung Wahrung;
-    const Test1_Ergebnis Ergebnis = Test1_Durchfuehren();
+    Test1_Ergebnis       Ergebnis = Test1_Durchfuehren();
     Antwort                       = Antwort_Abbrechen;
     Melden(Test1_Text(Ergebnis),
            Test1_Titel(Ergebnis),
