@@ -20,6 +20,10 @@ struct Devices_Optionen {
     bool        Mit_Json = false;
 };
 
+// Columns of the list; its head has the same.
+constexpr std::string_view Zeilen_Form =
+    "{:>4}  {:<24} {:<14} {:>7}  {:<9} {:<8} {:<8} {:<8} {:>6} {:>7} {:>5}  {}\n";
+
 const Geraet_T& Satz(int Nummer) { return Geraete_Tabelle[static_cast<std::size_t>(Nummer)]; }
 
 std::string Gruppe_Von(int Nummer)
@@ -58,38 +62,36 @@ Json Satz_Json(int Nummer)
 std::string Zeile_Von(int Nummer)
 {
     const Geraet_T& g = Satz(Nummer);
-    return fmt::format(
-        "{:>4}  {:<24} {:<14} {:>7}  {:<9} {:<8} {:<8} {:<8} {:>6} {:>7} {:>5}  {}\n",
-        Nummer,
-        Gruppe_Von(Nummer),
-        g.Name,
-        g.Bytes,
-        g.R_Typ,
-        g.P_Typ,
-        g.E_Typ.empty() ? "-" : g.E_Typ,
-        g.L_Typ.empty() ? "-" : g.L_Typ,
-        g.R_Timing,
-        g.P_Timing,
-        g.Seiten_Bytes,
-        Board_Name(g.Programmer));
+    return fmt::format(Zeilen_Form,
+                       Nummer,
+                       Gruppe_Von(Nummer),
+                       g.Name,
+                       g.Bytes,
+                       g.R_Typ,
+                       g.P_Typ,
+                       g.E_Typ.empty() ? "-" : g.E_Typ,
+                       g.L_Typ.empty() ? "-" : g.L_Typ,
+                       g.R_Timing,
+                       g.P_Timing,
+                       g.Seiten_Bytes,
+                       Board_Name(g.Programmer));
 }
 
 std::string Kopfzeile()
 {
-    return fmt::format(
-        "{:>4}  {:<24} {:<14} {:>7}  {:<9} {:<8} {:<8} {:<8} {:>6} {:>7} {:>5}  {}\n",
-        "No.",
-        "Group",
-        "Name",
-        "Bytes",
-        "Read",
-        "Program",
-        "Erase",
-        "Lock",
-        "t R/us",
-        "t P/us",
-        "Page",
-        "Board");
+    return fmt::format(Zeilen_Form,
+                       "No.",
+                       "Group",
+                       "Name",
+                       "Bytes",
+                       "Read",
+                       "Program",
+                       "Erase",
+                       "Lock",
+                       "t R/us",
+                       "t P/us",
+                       "Page",
+                       "Board");
 }
 
 void Alle_Ausgeben(bool Mit_Json)

@@ -35,8 +35,8 @@ void Auf_Fehlerausgabe(std::string_view Text)
 
 int Konsolen_Box::Zeigen(const Meldung_T& Meldung)
 {
-    const bool Frage        = Meldung.Tasten != Knoepfe::Ok;
-    Frage_Gestellt          = Frage_Gestellt || Frage;
+    const bool Frage = Meldung.Tasten != Knoepfe::Ok;
+
     const std::string Titel = Meldung.Titel.empty() ? std::string{} : Meldung.Titel + ": ";
     Auf_Fehlerausgabe((Frage ? "error: " : "") + Titel + Meldung.Text);
     return Frage ? Antwort_Abbrechen : Antwort_Ok;
@@ -44,7 +44,7 @@ int Konsolen_Box::Zeigen(const Meldung_T& Meldung)
 
 std::string Konsolen_Box::Eingeben(std::string_view Text)
 {
-    Frage_Gestellt = true;
+
     Auf_Fehlerausgabe("error: " + std::string(Text));
     return {};
 }
@@ -53,10 +53,8 @@ void Konsolen_Box::Hinweisen(std::string_view Text) { Auf_Fehlerausgabe(Text); }
 
 int Konsolen_Box::Bereich_Waehlen(std::string_view Text)
 {
-    if (Gewaehlte_Haelfte == 0) {
-        Frage_Gestellt = true;
+    if (Gewaehlte_Haelfte == 0)
         Auf_Fehlerausgabe("error: " + std::string(Text));
-    }
     return Gewaehlte_Haelfte;
 }
 

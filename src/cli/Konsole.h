@@ -16,8 +16,7 @@ public:
     void        Hinweisen(std::string_view Text) override;
     int         Bereich_Waehlen(std::string_view Text) override;
 
-    bool Frage_Gestellt    = false; // a question was asked and answered by Cancel
-    int  Gewaehlte_Haelfte = 0;     // answer to the partial-load question, 0 none
+    int Gewaehlte_Haelfte = 0; // answer to the partial-load question, 0 none
 };
 
 class Konsolen_Status : public Statusdialog {
