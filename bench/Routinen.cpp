@@ -83,6 +83,25 @@ void BM_Assemblieren(benchmark::State& s)
 }
 BENCHMARK(BM_Assemblieren)->Arg(31500)->Arg(315000)->Unit(benchmark::kMillisecond);
 
+// Random bytes of that number, FFh among them, into source text; counted in bytes.
+void BM_Disassemblieren(benchmark::State& s)
+{
+    Alles_Zuruecksetzen();
+    Sprache         = "E";
+    std::uint32_t x = 8051;
+    for (std::int64_t i = 0; i < s.range(0); ++i) {
+        x                                      = x * 1664525u + 1013904223u;
+        Hex_Daten[static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(x >> 24);
+    }
+    for (auto _ : s)
+        benchmark::DoNotOptimize(Disassemblieren());
+    s.SetBytesProcessed(s.iterations() * s.range(0));
+}
+BENCHMARK(BM_Disassemblieren)
+    ->RangeMultiplier(2)
+    ->Range(Bild_Groesse / 8, Bild_Groesse)
+    ->Unit(benchmark::kMillisecond);
+
 // Encoding and line ends of a source; counted in bytes.
 void BM_Text_Entschluesseln(benchmark::State& s)
 {

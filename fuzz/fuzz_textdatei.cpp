@@ -15,16 +15,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Daten, std::size_t Anz
     const std::string Bytes  = Ein.Text();
 
     const Textdatei_T Datei = Text_Entschluesseln(Bytes);
-    Muss(Text_Verschluesseln(Datei.Text, Datei) == Bytes);
+    std::string       Text  = Ganzer_Text(Datei);
+    Muss(Text_Verschluesseln(Text, Datei) == Bytes);
 
-    std::string Text = Datei.Text;
     Text.replace(Stelle % (Text.size() + 1), Weg % 64, Neu);
-    Text = Text_Entschluesseln("\xFF" + Text).Text.substr(1); // whole line ends only
+    Text = Ganzer_Text(Text_Entschluesseln(Text)); // whole characters and line ends only
     std::string Geaendert = Text_Verschluesseln(Text, Datei);
-    Muss(Text_Entschluesseln(Geaendert).Text == Text);
+    Muss(Ganzer_Text(Text_Entschluesseln(Geaendert)) == Text);
 
     const Textdatei_T Gespeichert = Gespeicherte_Textdatei(std::move(Geaendert), Datei);
-    Muss(Gespeichert.Text == Text);
+    Muss(Ganzer_Text(Gespeichert) == Text);
     Muss(Text_Verschluesseln(Text, Gespeichert) == Gespeichert.Original);
     return 0;
 }

@@ -11,7 +11,6 @@ struct Spaeteres_Kommando {
 
 // clang-format off
 constexpr Spaeteres_Kommando Spaetere[] = {
-    {"disassemble", "Turn an image into source text (not available yet)"},
     {"simulate",    "Run a program in the simulator (not available yet)"},
     {"erase",       "Erase a device (not available yet)"},
     {"lock",        "Set the lock level of a device (not available yet)"},

@@ -29,11 +29,12 @@ struct Kommandozeile {
     CLI::App* Kommando(const std::string& Name, const std::string& Text, std::function<int()> Tut);
 };
 
-void Assemble_Anmelden(Kommandozeile& Zeile); // assemble
-void Dateien_Anmelden(Kommandozeile& Zeile);  // convert, compare
-void Geraete_Anmelden(Kommandozeile& Zeile);  // devices
-void Brenner_Anmelden(Kommandozeile& Zeile);  // read, program, check, test
-void Spaetere_Anmelden(Kommandozeile& Zeile); // commands that this version doesn't have yet
+void Assemble_Anmelden(Kommandozeile& Zeile);    // assemble
+void Disassemble_Anmelden(Kommandozeile& Zeile); // disassemble
+void Dateien_Anmelden(Kommandozeile& Zeile);     // convert, compare
+void Geraete_Anmelden(Kommandozeile& Zeile);     // devices
+void Brenner_Anmelden(Kommandozeile& Zeile);     // read, program, check, test
+void Spaetere_Anmelden(Kommandozeile& Zeile);    // commands that this version doesn't have yet
 
 // The man page of the command line as it was announced (troff).
 std::string Handbuch_Seite(const CLI::App& App);

@@ -34,11 +34,18 @@ private:
 
 class Konsolen_Ereignisse : public Ereignisschleife {
 public:
-    void Eine_Runde() override;
-    void Mauszeiger_Warten(bool) override {}
-    void Fenster_Sperren(bool) override {}
-    void Pause(double) override {} // there is no dialog to be seen
-    void Titel(int, std::string_view) override {}
+    void   Eine_Runde() override;
+    void   Mauszeiger_Warten(bool) override {}
+    void   Fenster_Sperren(bool) override {}
+    void   Pause(double) override {} // there is no dialog to be seen
+    void   Titel(int, std::string_view) override {}
+    double Sekunden() override { return 0; } // nothing here waits by it
+};
+
+// A text that nobody sees.
+class Konsolen_Text : public Speicher_Text {
+public:
+    bool Wird_Gezeigt() const override { return false; }
 };
 
 // From now on an interrupt (Ctrl C) is the cancel button, so that a device is left in an orderly
@@ -52,8 +59,8 @@ struct Konsole_T {
     Konsolen_Box        Box{};
     Konsolen_Status     Status{};
     Konsolen_Ereignisse Ereignisse{};
-    Speicher_Text       Edit{};
-    Speicher_Text       Notiz{};
+    Konsolen_Text       Edit{};
+    Konsolen_Text       Notiz{};
 };
 
 // Text with CR LF ends, as lines on standard error; blank lines at its end are dropped.

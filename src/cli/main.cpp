@@ -56,6 +56,7 @@ void Anmelden(Kommandozeile& Zeile)
         "Numbers may be decimal, 0x1F or 1Fh; `-` is standard input or output where a file "
         "is meant.");
     Assemble_Anmelden(Zeile);
+    Disassemble_Anmelden(Zeile);
     Dateien_Anmelden(Zeile);
     Geraete_Anmelden(Zeile);
     Brenner_Anmelden(Zeile);

@@ -4,17 +4,11 @@
 #include "core/shared_state.h"
 
 namespace varnholt {
-namespace {
-
-const std::string Kein_Text{};
-
-} // namespace
-
-const std::string& In_Sprache(const Text_Paar& Text)
+std::string In_Sprache(const Text_Paar& Text)
 {
     if (Sprache == "D")
         return Text.D;
-    return Sprache == "E" ? Text.E : Kein_Text;
+    return Sprache == "E" ? Text.E : std::string{};
 }
 
 void Melden(const Text_Paar& Text, const Text_Paar& Titel, Knoepfe Tasten, Symbol Zeichen)

@@ -15,7 +15,7 @@ struct Text_Paar {
 };
 
 // The text of the interface language; empty when `Sprache` is neither "D" nor "E".
-const std::string& In_Sprache(const Text_Paar& Text);
+std::string In_Sprache(const Text_Paar& Text);
 
 // Shows a message box and keeps its result in `Antwort`. With a `Sprache` that is neither "D" nor
 // "E" no box appears and `Antwort` stays.

@@ -83,16 +83,20 @@ fs::path Pfad_Aus_Text(std::string_view UTF8)
     return fs::path(Text);
 }
 
+fs::path Pfad_Suchen(const fs::path& Ordner, std::string_view Name)
+{
+    fs::path Pfad = Ordner;
+    for (const fs::path& Teil : Pfad_Aus_Text(Name).relative_path())
+        Pfad = Eintrag_Ohne_Fall(Pfad, Teil);
+    return Pfad;
+}
+
 std::optional<fs::path> Datei_Suchen(const fs::path& Ordner, std::string_view Name)
 {
     std::error_code Fehler;
-    const fs::path  Teile = Pfad_Aus_Text(Name).relative_path();
-    fs::path        Pfad  = Ordner / Teile;
-    if (!fs::is_regular_file(Pfad, Fehler)) {
-        Pfad = Ordner;
-        for (const fs::path& Teil : Teile)
-            Pfad = Eintrag_Ohne_Fall(Pfad, Teil);
-    }
+    fs::path        Pfad = Ordner / Pfad_Aus_Text(Name).relative_path();
+    if (!fs::is_regular_file(Pfad, Fehler))
+        Pfad = Pfad_Suchen(Ordner, Name);
     return fs::is_regular_file(Pfad, Fehler) ? std::optional(Pfad) : std::nullopt;
 }
 

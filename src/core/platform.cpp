@@ -1,6 +1,7 @@
 // The silent world that stands behind the wall until a program brings its own.
 #include "core/platform.h"
 
+#include "core/codepage.h"
 #include "core/text_memory.h"
 
 namespace varnholt {
@@ -24,11 +25,49 @@ public:
 
 class Stumme_Ereignisse : public Ereignisschleife {
 public:
-    void Eine_Runde() override {}
-    void Mauszeiger_Warten(bool) override {}
-    void Fenster_Sperren(bool) override {}
-    void Pause(double) override {}
-    void Titel(int, std::string_view) override {}
+    void   Eine_Runde() override {}
+    void   Mauszeiger_Warten(bool) override {}
+    void   Fenster_Sperren(bool) override {}
+    void   Pause(double) override {}
+    void   Titel(int, std::string_view) override {}
+    double Sekunden() override { return 0; }
+};
+
+class Stumme_Fenster : public Fensterwelt {
+public:
+    bool   Sichtbar(int) const override { return false; }
+    void   Sichtbar_Setzen(int, bool) override {}
+    Lage_T Lage(int) const override { return {}; }
+    void   Lage_Setzen(int, const Lage_T&) override {}
+    void   Fokus(int) override {}
+    Lage_T Innenmass() const override { return {}; }
+    void   Bildschirm_Fuellen() override {}
+    void   Hauptfenster_Titel(std::string_view) override {}
+    void   Hintergrund(std::int32_t) override {}
+    void   Schrift_Setzen(int, const Schrift_T&) override {}
+    void   Formular_Zeigen(Formular) override {}
+    void   Formular_Entladen(Formular) override {}
+    void   Start_Text(std::string_view) override {}
+    void   Programm_Beenden() override {}
+};
+
+class Stumme_Dialoge : public Dialoge {
+public:
+    void                        Datei_Waehlen(Dateiwahl_T& Wahl) override { Wahl.Name.clear(); }
+    std::optional<Schrift_T>    Schrift_Waehlen(const Schrift_T&) override { return std::nullopt; }
+    std::optional<std::int32_t> Farbe_Waehlen(std::int32_t) override { return std::nullopt; }
+};
+
+class Stumme_Ablage : public Zwischenablage {
+public:
+    std::string Text() const override { return {}; }
+    void        Setzen(std::string_view) override {}
+};
+
+class Keine_Umgebung : public Schale {
+public:
+    bool Oeffnen(std::string_view) override { return false; }
+    void Dateityp_Verknuepfen(const Dateityp_T&) override {}
 };
 
 // No port: writes go nowhere and every read gives FFh, as floating lines do.
@@ -67,29 +106,45 @@ struct Stille_Welt_T {
     Speicher_Text     Edit;
     Speicher_Text     Notiz;
     Kein_Port         Port;
+    Stumme_Fenster    Fenster;
+    Stumme_Dialoge    Dialog;
+    Stumme_Ablage     Ablage;
+    Keine_Umgebung    Umgebung;
+
+    Plattform_T Alle()
+    {
+        return {&Box,
+                &Status,
+                &Ereignisse,
+                &Edit,
+                &Notiz,
+                &Port,
+                &Fenster,
+                &Dialog,
+                &Ablage,
+                &Umgebung};
+    }
 };
 
 Stille_Welt_T Stille_Welt;
 
 } // namespace
 
-Plattform_T Plattform{&Stille_Welt.Box,
-                      &Stille_Welt.Status,
-                      &Stille_Welt.Ereignisse,
-                      &Stille_Welt.Edit,
-                      &Stille_Welt.Notiz,
-                      &Stille_Welt.Port};
+std::string Textfeld::Auswahl_Text_UTF8() const { return Nach_UTF8(Auswahl_Text()); }
+
+void Textfeld::Auswahl_Ersetzen_UTF8(std::string_view Neuer) { Auswahl_Ersetzen(Aus_UTF8(Neuer)); }
+
+std::string Zwischenablage::Text_UTF8() const { return Nach_UTF8(Text()); }
+
+void Zwischenablage::Setzen_UTF8(std::string_view Text) { Setzen(Aus_UTF8(Text)); }
+
+Plattform_T Plattform = Stille_Welt.Alle();
 
 void Plattform_Zuruecksetzen()
 {
     Stille_Welt.Edit  = {};
     Stille_Welt.Notiz = {};
-    Plattform         = {&Stille_Welt.Box,
-                         &Stille_Welt.Status,
-                         &Stille_Welt.Ereignisse,
-                         &Stille_Welt.Edit,
-                         &Stille_Welt.Notiz,
-                         &Stille_Welt.Port};
+    Plattform         = Stille_Welt.Alle();
 }
 
 } // namespace varnholt

@@ -4,8 +4,10 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace varnholt {
 
@@ -61,23 +63,151 @@ public:
     // Lets the user see a finished dialog for that long, the event loop running meanwhile.
     virtual void Pause(double Sekunden)                    = 0;
     virtual void Titel(int Fenster, std::string_view Text) = 0; // window number of Fenster_Tabelle
+    // Seconds since midnight, local time, with a fraction. (A port has a clock of its own.)
+    virtual double Sekunden() = 0;
+};
+
+// A piece of a text: first character and number of characters.
+struct Textstelle_T {
+    std::int64_t Anfang                                = 0;
+    std::int64_t Laenge                                = 0;
+    bool         operator==(const Textstelle_T&) const = default;
+};
+
+// A piece of a text and its colour, 24 bits, blue byte first: 0xDD1111 is a blue.
+struct Farbstelle_T {
+    std::int64_t Anfang                                = 0;
+    std::int64_t Laenge                                = 0;
+    std::int32_t Farbe                                 = 0;
+    bool         operator==(const Farbstelle_T&) const = default;
 };
 
 // A text control (`Edit`, `Notiz`). The text is Windows-1252 with CR LF line ends; positions count
-// characters from 0, lines from 0.
+// characters from 0, a line end being two; lines count from 0. What lies outside the text is drawn
+// in. Every character has a colour; typed and inserted ones take that of the character before them.
 class Textfeld {
 public:
     virtual ~Textfeld()              = default;
     virtual std::string Text() const = 0;
-    // The text for reading only; Puffer holds it where the control has no such text of its own.
+    // The text for reading only; Puffer holds it where the control has no such text of its own. The
+    // view holds until the text changes.
     virtual std::string_view Text_Ansicht(std::string& Puffer) const
     {
         Puffer = Text();
         return Puffer;
     }
-    virtual void Text_Setzen(std::string Neuer)                       = 0;
-    virtual void Auswaehlen(std::int64_t Anfang, std::int64_t Laenge) = 0;
-    virtual void Fokus()                                              = 0;
+    virtual void Text_Setzen(std::string Neuer) = 0; // all of it in colour 0, caret at 0
+    // The same in UTF-8, for a control that shows more characters than the logic knows.
+    virtual std::string  Text_UTF8() const                                    = 0;
+    virtual void         Text_Setzen_UTF8(std::string_view Neuer)             = 0;
+    virtual std::int64_t Laenge() const                                       = 0;
+    virtual void         Auswaehlen(std::int64_t Anfang, std::int64_t Laenge) = 0;
+    virtual Textstelle_T Auswahl() const                                      = 0;
+    virtual std::string  Auswahl_Text() const                                 = 0;
+    virtual void         Auswahl_Ersetzen(std::string_view Neuer)       = 0; // caret behind it
+    // The same in UTF-8; by way of Windows-1252 where the control knows no more.
+    virtual std::string Auswahl_Text_UTF8() const;
+    virtual void        Auswahl_Ersetzen_UTF8(std::string_view Neuer);
+    virtual void         Auswahl_Faerben(std::int32_t Farbe)            = 0;
+    virtual void         Faerben(std::span<const Farbstelle_T> Stellen) = 0; // ascending
+    virtual std::int32_t Farbe_An(std::int64_t Stelle) const            = 0;
+    // The colours of a piece, without those of colour 0, ascending.
+    virtual std::vector<Farbstelle_T> Farben(Textstelle_T Stueck) const    = 0;
+    virtual std::int64_t              Zeile_Von(std::int64_t Stelle) const = 0;
+    virtual Textstelle_T              Zeile(std::int64_t Nummer) const     = 0; // without its end
+    virtual std::int64_t              Zeilen_Anzahl() const                = 0; // at least 1
+    virtual std::int64_t              Erste_Zeile() const                  = 0; // first visible
+    virtual void                      Zeichnen_Anhalten(bool Angehalten)   = 0; // freeze, thaw
+    virtual void                      Sperren(bool Gesperrt)               = 0; // read only
+    virtual void                      Fokus()                              = 0;
+    // False: nobody ever looks at it, so that colours are not worth their time.
+    virtual bool Wird_Gezeigt() const { return true; }
+};
+
+// Place and size of a window inside the main window, in the screen units of the platform.
+struct Lage_T {
+    int  Oben                            = 0;
+    int  Links                           = 0;
+    int  Hoehe                           = 0;
+    int  Breite                          = 0;
+    bool operator==(const Lage_T&) const = default;
+};
+
+// A font as the settings file keeps it.
+struct Schrift_T {
+    std::string Name{}; // empty: the window's default
+    bool        Fett                               = false;
+    bool        Kursiv                             = false;
+    double      Groesse                            = 0; // points, 0: the window's default
+    bool        operator==(const Schrift_T&) const = default;
+};
+
+// The forms that stand beside the child windows.
+enum class Formular { Start, Erststart, Abfrage_Modus, Optionen };
+
+// The main window and its child windows, by window number (core/windows.h).
+class Fensterwelt {
+public:
+    virtual ~Fensterwelt()                                      = default;
+    virtual bool   Sichtbar(int Fenster) const                  = 0;
+    virtual void   Sichtbar_Setzen(int Fenster, bool Sichtbar)  = 0;
+    virtual Lage_T Lage(int Fenster) const                      = 0;
+    virtual void   Lage_Setzen(int Fenster, const Lage_T& Neue) = 0;
+    virtual void   Fokus(int Fenster)                           = 0;
+    virtual Lage_T Innenmass() const    = 0; // what the child windows have, Oben and Links 0
+    virtual void   Bildschirm_Fuellen() = 0; // the main window
+    virtual void   Hauptfenster_Titel(std::string_view Text)             = 0;
+    virtual void   Hintergrund(std::int32_t Farbe)                       = 0; // of the text windows
+    virtual void   Schrift_Setzen(int Fenster, const Schrift_T& Schrift) = 0; // 2, 5 and 6 only
+    virtual void   Formular_Zeigen(Formular Welches)                     = 0; // Optionen: modal
+    virtual void   Formular_Entladen(Formular Welches)                   = 0;
+    virtual void   Start_Text(std::string_view Text)                     = 0; // label `L_Init`
+    virtual void   Programm_Beenden()                                    = 0; // no way back
+};
+
+// What a file dialog opens with, and comes back with.
+struct Dateiwahl_T {
+    std::string Filter{};          // pairs of text and patterns, all separated by |
+    int         Filter_Nummer = 1; // of the pairs, from 1
+    std::string Verzeichnis{};     // where it opens (UTF-8)
+    std::string Name{};            // proposed; chosen; empty when cancelled (UTF-8)
+    bool        Speichern = false; // a name to save under: may be new, isn't asked about again
+};
+
+// The dialogs of the platform.
+class Dialoge {
+public:
+    virtual ~Dialoge()                                                           = default;
+    virtual void                        Datei_Waehlen(Dateiwahl_T& Wahl)         = 0;
+    virtual std::optional<Schrift_T>    Schrift_Waehlen(const Schrift_T& Bisher) = 0; // 6 to 22
+    virtual std::optional<std::int32_t> Farbe_Waehlen(std::int32_t Bisher)       = 0;
+};
+
+// The clipboard; text in Windows-1252. Lines may end in LF where another program wrote it.
+class Zwischenablage {
+public:
+    virtual ~Zwischenablage()                         = default;
+    virtual std::string Text() const                  = 0;
+    virtual void        Setzen(std::string_view Text) = 0;
+    // The same in UTF-8; by way of Windows-1252 where the platform knows no more.
+    virtual std::string Text_UTF8() const;
+    virtual void        Setzen_UTF8(std::string_view Text);
+};
+
+// A shell file association.
+struct Dateityp_T {
+    std::string Beschreibung{};
+    std::string Befehl{}; // without the argument
+    std::string Klasse{};
+    std::string Endung{}; // without the dot
+};
+
+// The desktop around the program.
+class Schale {
+public:
+    virtual ~Schale()                          = default;
+    virtual bool Oeffnen(std::string_view Ort) = 0; // URL or path; false: nobody took it
+    virtual void Dateityp_Verknuepfen(const Dateityp_T& Typ) = 0;
 };
 
 // The port driver under the names of the field. A code above 0 is an error of the driver.
@@ -110,6 +240,10 @@ struct Plattform_T {
     Textfeld*         Edit;
     Textfeld*         Notiz;
     Porttreiber*      Port;
+    Fensterwelt*      Fenster;
+    Dialoge*          Dialog;
+    Zwischenablage*   Ablage;
+    Schale*           Umgebung;
 };
 
 extern Plattform_T Plattform;

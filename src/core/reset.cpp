@@ -1,14 +1,27 @@
 // The whole program as at its start. A new state group gets its line here.
 #include "core/reset.h"
 
+#include "core/clipboard.h"
+#include "core/instance.h"
+#include "core/interface_texts.h"
+#include "core/menu.h"
+#include "core/options.h"
 #include "core/platform.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
+#include "core/startup.h"
+#include "core/undo.h"
 #include "core/views.h"
+#include "core/windows.h"
+#include "editors/Einfaerben.h"
+#include "editors/Hexedit.h"
+#include "editors/Quelltext.h"
+#include "editors/Sprungmarken.h"
 #include "files/Datei_Zustand.h"
 #include "language/Assembler_Zustand.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Geraete.h"
+#include "programmer/Port_Einrichtung.h"
 
 namespace varnholt {
 
@@ -16,12 +29,25 @@ void Alles_Zuruecksetzen()
 {
     Gemeinsames_Zuruecksetzen();
     Optionen_Zuruecksetzen();
-    Ansichten = {};
+    Optionen_Form = {};
+    Fensterlage   = {};
+    Menues        = {};
+    Oberflaeche   = {};
+    Ablage        = {};
+    Ansichten     = {};
     Assembler_Zuruecksetzen();
+    Quelltext_Zuruecksetzen();
+    Einfaerben_Zuruecksetzen();
+    Sprungmarken_Zuruecksetzen();
+    Hexedit_Zuruecksetzen();
     Dateien_Zuruecksetzen();
     Geraete_Zuruecksetzen();
     Brenner_Zuruecksetzen();
+    Startlauf = {};
+    Undo      = {};
+    Instanz_Zuruecksetzen();
     Plattform_Zuruecksetzen();
+    Port_Einrichtung_Zuruecksetzen();
 }
 
 } // namespace varnholt

@@ -1,10 +1,24 @@
-// The option values, with their values at a first start. Reading and writing the settings file and
-// the dialog `Optionen` come with the desktop program.
+// The lasting settings, with their values at a first start. The settings file reads and writes them
+// (settings_file), the dialog `Optionen` edits them (options).
 #pragma once
 
+#include "core/platform.h"
+
+#include <array>
 #include <cstdint>
+#include <string>
+#include <vector>
 
 namespace varnholt {
+
+// Windows whose font can be chosen; index of Schriften.
+inline constexpr int Schrift_Edit   = 0;
+inline constexpr int Schrift_Spr    = 1;
+inline constexpr int Schrift_Notiz  = 2;
+inline constexpr int Schrift_Anzahl = 3;
+
+inline constexpr int Zoom_Mindestens = 25; // per cent
+inline constexpr int Zoom_Hoechstens = 400;
 
 inline struct Optionen_T {
     bool         C_Brenner           = true;  // check programmer before access
@@ -30,6 +44,15 @@ inline struct Optionen_T {
     int          Autosave_Nummer       = 0;     // next autosave number
     bool         Autosave_Zeitlich     = true;  // autosave timed
     bool         Autosave_Assemblieren = false; // autosave before assembly
+    // By Schrift_Edit ...; an empty name and the size 0 stand for the window's default.
+    std::array<Schrift_T, Schrift_Anzahl> Schriften{};
+    // Which port the program drives: "sim" a simulated board, "ppdev:" and a device path, "io" the
+    // registers at Port_Basis; empty: not yet chosen.
+    std::string Port_Art{};
+    int         Zoom = 100; // of the source editor, per cent
+    // Further lines "Name=Wert" of the settings file that this version doesn't know; they are
+    // written again.
+    std::vector<std::string> Fremde_Zeilen{};
 } Optionen_Werte;
 
 inline constinit auto& C_Brenner             = Optionen_Werte.C_Brenner;
@@ -55,6 +78,10 @@ inline constinit auto& Tessel2_Version       = Optionen_Werte.Tessel2_Version;
 inline constinit auto& Autosave_Nummer       = Optionen_Werte.Autosave_Nummer;
 inline constinit auto& Autosave_Zeitlich     = Optionen_Werte.Autosave_Zeitlich;
 inline constinit auto& Autosave_Assemblieren = Optionen_Werte.Autosave_Assemblieren;
+inline constinit auto& Schriften             = Optionen_Werte.Schriften;
+inline constinit auto& Port_Art              = Optionen_Werte.Port_Art;
+inline constinit auto& Zoom                  = Optionen_Werte.Zoom;
+inline constinit auto& Fremde_Zeilen         = Optionen_Werte.Fremde_Zeilen;
 
 // Every option at its value of a first start.
 inline void Optionen_Zuruecksetzen() { Optionen_Werte = {}; }

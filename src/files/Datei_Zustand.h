@@ -4,6 +4,7 @@
 
 #include "files/Textdatei.h"
 
+#include <cstdint>
 #include <string>
 
 namespace varnholt {
@@ -19,15 +20,18 @@ enum class Dateifehler {
 };
 
 inline struct Dateien_T {
-    std::string Dialog_Name{};        // the file dialog's FileName (UTF-8); what Datei_Laden loads
-    std::string Dialog_Verzeichnis{}; // the file dialog's initial directory (UTF-8)
-    Textdatei_T Quell_Datei{}; // the file behind the text of `Edit`; empty Original: a new text
-    Textdatei_T Notiz_Datei{}; // the file behind the text of `Notiz`, likewise
-    Dateifehler Datei_Fehler = Dateifehler::Keiner;
+    std::string   Dialog_Name{}; // the file dialog's FileName (UTF-8); what Datei_Laden loads
+    std::string   Dialog_Verzeichnis{}; // the file dialog's initial directory (UTF-8)
+    int           Dialog_Filter = 1;    // the file dialog's filter index, from 1
+    Textdatei_T   Quell_Datei{}; // the file behind the text of `Edit`; empty Original: a new text
+    Textdatei_T   Notiz_Datei{}; // the file behind the text of `Notiz`, likewise
+    Dateifehler   Datei_Fehler = Dateifehler::Keiner;
+    std::uint64_t Vorgang = 0; // loads and saves so far: the windows see that a file is another
 } Dateien;
 
 inline constinit auto& Dialog_Name        = Dateien.Dialog_Name;
 inline constinit auto& Dialog_Verzeichnis = Dateien.Dialog_Verzeichnis;
+inline constinit auto& Dialog_Filter      = Dateien.Dialog_Filter;
 inline constinit auto& Quell_Datei        = Dateien.Quell_Datei;
 inline constinit auto& Notiz_Datei        = Dateien.Notiz_Datei;
 inline constinit auto& Datei_Fehler       = Dateien.Datei_Fehler;

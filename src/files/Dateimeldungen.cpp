@@ -4,6 +4,8 @@
 #include "core/messages.h"
 #include "files/Datei_Zustand.h"
 
+#include <utility>
+
 namespace varnholt {
 namespace {
 
@@ -12,6 +14,15 @@ void Nicht_Gelesen(const std::string& Name, const std::string& Grund)
     Plattform.Box->Hinweisen(
         In_Sprache({"Die Datei " + Name + " konnte nicht gelesen werden: " + Grund + ".",
                     "The file " + Name + " could not be read: " + Grund + "."}));
+}
+
+// The control holds Text for the file now. The file's own texts are no longer needed: what is asked
+// of them later is made again from the bytes.
+void Als_Gezeigt_Merken(Textdatei_T& Datei, const std::string& Text)
+{
+    Datei.Gezeigt   = Text == Ganzer_Text(Datei) ? std::string{} : Text;
+    Datei.Text      = {};
+    Datei.Text_UTF8 = {};
 }
 
 } // namespace
@@ -51,14 +62,29 @@ bool Datei_Sichern(const std::string& Name, std::string_view Bytes)
     return false;
 }
 
-bool Textdatei_Speichern(const std::string& Name, std::string_view Text, Textdatei_T& Vorlage)
+bool Textdatei_Speichern(const std::string& Name, const Textfeld& Feld, Textdatei_T& Vorlage)
 {
+    const std::string Text   = Feld.Text_UTF8();
     const Textdatei_T Bisher = Vorlage.Original.empty() ? Neue_Textdatei() : Vorlage;
     std::string       Bytes  = Text_Verschluesseln(Text, Bisher);
     if (!Datei_Sichern(Name, Bytes))
         return false;
     Vorlage = Gespeicherte_Textdatei(std::move(Bytes), Bisher);
+    Als_Gezeigt_Merken(Vorlage, Text);
     return true;
+}
+
+void In_Textfeld_Geben(Textdatei_T& Datei, Textfeld& Feld)
+{
+    if (!Feld.Wird_Gezeigt()) {
+        Datei.Text_UTF8 = {};
+        return Feld.Text_Setzen(std::exchange(Datei.Text, {}));
+    }
+    if (Datei.Text_UTF8.empty())
+        Feld.Text_Setzen(Datei.Text);
+    else
+        Feld.Text_Setzen_UTF8(Datei.Text_UTF8);
+    Als_Gezeigt_Merken(Datei, Feld.Text_UTF8());
 }
 
 } // namespace varnholt

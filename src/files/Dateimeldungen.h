@@ -1,6 +1,7 @@
 // Reading and writing with a word to the user when it fails.
 #pragma once
 
+#include "core/platform.h"
 #include "files/Textdatei.h"
 
 #include <optional>
@@ -17,8 +18,10 @@ std::optional<Datei_Anfang_T> Dateianfang_Lesen(const std::string& Name, std::ui
 // Writes a file; false, after a notice of the reason, when it failed.
 // sets: Datei_Fehler on a failure
 bool Datei_Sichern(const std::string& Name, std::string_view Bytes);
-// The same for a text in the encoding of Vorlage, or of a new file where Vorlage has no bytes;
-// Vorlage then is the file as written.
-bool Textdatei_Speichern(const std::string& Name, std::string_view Text, Textdatei_T& Vorlage);
+// The same for the text of a control, in the encoding of Vorlage, or of a new file where Vorlage
+// has no bytes; Vorlage then is the file as written.
+bool Textdatei_Speichern(const std::string& Name, const Textfeld& Feld, Textdatei_T& Vorlage);
+// Puts the text of a loaded file into a control. It is taken out of Datei.
+void In_Textfeld_Geben(Textdatei_T& Datei, Textfeld& Feld);
 
 } // namespace varnholt

@@ -4,6 +4,10 @@
 #include "core/commands.h"
 #include "core/messages.h"
 #include "core/shared_state.h"
+#include "core/undo.h"
+#include "core/windows.h"
+#include "editors/Hexedit.h"
+#include "editors/Quelltext_Sperre.h"
 #include "files/Dat.h"
 #include "files/Datei_Zustand.h"
 #include "files/Dateimeldungen.h"
@@ -43,16 +47,15 @@ void Bild_Zeigen()
 {
     if (Vergleich_Laeuft)
         return;
-    Plattform.Ereignisse->Titel(1, "Hex-Editor " + Datei_Name);
+    Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor " + Datei_Name);
     Hex_Anzeige();
 }
 
-void Modus_Wechseln(int Neuer)
+void Modus_Anpassen(int Neuer)
 {
     if (Modus == Neuer)
         return;
-    Modus = Neuer;
-    Fenster_Anordnen();
+    In_Modus_Wechseln(Neuer);
     Plattform.Ereignisse->Eine_Runde();
 }
 
@@ -86,6 +89,7 @@ void Haelfte_Laden(std::string_view Bytes)
     Bytes.remove_prefix(Haelfte == 2 ? static_cast<std::size_t>(Bild_Groesse) : 0);
     Rohdaten_Lesen(Bytes, 0, Eigentliches_Bild());
     IC_Typ_Löschen();
+    Scroll_Einrichten();
     Bild_Zeigen();
     Laden_Verbuchen(true);
 }
@@ -139,7 +143,7 @@ void Bild_Laden(Dateityp Typ)
         Datei_Fehler = Dateifehler::Lesefehler;
         return;
     }
-    Modus_Wechseln(Modus_Hex);
+    Modus_Anpassen(Modus_Hex);
     if (!Import_Laeuft)
         Bild_Loeschen();
     if (Typ == Dateityp::Rohdaten && Umfang_Der_Datei(Datei->Groesse) == Rohdaten_Umfang::Haelfte)
@@ -147,6 +151,19 @@ void Bild_Laden(Dateityp Typ)
     Inhalt_Einlesen(Typ, *Datei);
     Bild_Zeigen();
     Laden_Verbuchen(false);
+}
+
+void Quelltext_Zeigen()
+{
+    {
+        const Edit_Ruhe Ruhe;
+        In_Textfeld_Geben(Quell_Datei, *Plattform.Edit);
+    }
+    Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor " + Datei_Name);
+    if (!Plattform.Edit->Wird_Gezeigt())
+        return;
+    Edit_Einfaerben();
+    Sprungmarken_Fuellen();
 }
 
 void Quelle_Laden()
@@ -162,11 +179,9 @@ void Quelle_Laden()
         Datei_Fehler = Dateifehler::Lesefehler;
         return;
     }
-    Modus_Wechseln(Modus_MC);
+    Modus_Anpassen(Modus_MC);
     Quell_Datei = Text_Entschluesseln(std::move(*Bytes));
-    Plattform.Edit->Text_Setzen(std::move(Quell_Datei.Text));
-    Quell_Datei.Text.clear();
-    Plattform.Ereignisse->Titel(2, "MC-Editor " + Datei_Name);
+    Quelltext_Zeigen();
     Laden_Verbuchen(false);
 }
 
@@ -178,7 +193,7 @@ void Nach_Typ_Laden()
     else
         Bild_Laden(Typ);
     if (Datei_Fehler == Dateifehler::Keiner)
-        Text_Veraendert = false;
+        Undo_Zuruecksetzen();
 }
 
 } // namespace
@@ -205,6 +220,7 @@ void Datei_Laden()
     if (Datei_Fehler == Dateifehler::Lesefehler)
         Datei_Name = Bisher; // a later save must not go over the file that couldn't be read
     Plattform.Ereignisse->Mauszeiger_Warten(false);
+    ++Dateien.Vorgang;
 }
 
 } // namespace varnholt

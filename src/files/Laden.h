@@ -14,7 +14,7 @@ namespace varnholt {
 // nothing; one that isn't there changes Datei_Name only.
 // reads: Dialog_Name, Modus, Import_Laeuft, Import_Adresse, Vergleich_Laeuft, Init_Laeuft
 // sets: Hex_Daten or Edit, Notiz, Modus, Datei_Name, Dialog_Verzeichnis, Letzte_Datei,
-// Text_Aktuell, Text_Veraendert, Datei_Geaendert, IC_Nummer, Datei_Fehler
+// Text_Aktuell, Text_Veraendert, Datei_Geaendert, IC_Nummer, Datei_Fehler, the undo ring, menu
 void Datei_Laden();
 // True when the file Dialog_Name is there; a message tells that it isn't.   sets: Datei_Fehler
 [[nodiscard]] bool Datei_Gefunden();

@@ -3,6 +3,7 @@
 
 #include "core/platform.h"
 #include "core/shared_state.h"
+#include "editors/Quelltext_Sperre.h"
 #include "files/Datei_Zustand.h"
 #include "files/Dateimeldungen.h"
 #include "files/Dateinamen.h"
@@ -39,16 +40,16 @@ void Notiz_Laden(bool Mit_RTF)
     if (!Name.empty() && Name != Datei_Name)
         if (auto Bytes = Ganze_Datei_Lesen(Name, Textdatei_Hoechstens))
             Notiz_Datei = Text_Entschluesseln(std::move(*Bytes));
-    Plattform.Notiz->Text_Setzen(Notiz_Datei.Text);
+    const Edit_Ruhe Ruhe;
+    In_Textfeld_Geben(Notiz_Datei, *Plattform.Notiz);
 }
 
 void Notiz_Speichern()
 {
-    const std::string Text = Plattform.Notiz->Text();
     const std::string Name = Neben_Dem_Dokument(".not");
-    if (Text.empty() || Name == Datei_Name) // a document of that very name is not to be lost
-        return;
-    Textdatei_Speichern(Name, Text, Notiz_Datei);
+    if (Plattform.Notiz->Laenge() == 0 || Name == Datei_Name)
+        return; // a document of that very name is not to be lost
+    Textdatei_Speichern(Name, *Plattform.Notiz, Notiz_Datei);
 }
 
 } // namespace varnholt

@@ -4,6 +4,7 @@
 #include "core/commands.h"
 #include "core/messages.h"
 #include "core/shared_state.h"
+#include "core/windows.h"
 #include "files/Dat.h"
 #include "files/Datei_Zustand.h"
 #include "files/Dateimeldungen.h"
@@ -26,8 +27,8 @@ std::span<const std::uint8_t> Eigentliches_Bild()
 
 void Quelle_Speichern()
 {
-    if (Textdatei_Speichern(Datei_Name, Plattform.Edit->Text(), Quell_Datei))
-        Plattform.Ereignisse->Titel(2, "MC-Editor " + Datei_Name);
+    if (Textdatei_Speichern(Datei_Name, *Plattform.Edit, Quell_Datei))
+        Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor " + Datei_Name);
 }
 
 void Intel_Hex_Sichern(std::span<const std::uint8_t> Benutzt)
@@ -66,7 +67,16 @@ void Bild_Speichern()
 {
     Nach_Typ_Speichern(Benutzter_Teil(Eigentliches_Bild()));
     if (Datei_Fehler == Dateifehler::Keiner && !Vergleich_Laeuft)
-        Plattform.Ereignisse->Titel(1, "Hex-Editor " + Datei_Name);
+        Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor " + Datei_Name);
+}
+
+// During an assembly the image is saved while the source stays on display.
+void Hauptfenster_Fokus()
+{
+    if (Modus == Modus_MC)
+        Plattform.Edit->Fokus();
+    else if (Plattform.Fenster->Sichtbar(Fenster_Hexedit))
+        Plattform.Fenster->Fokus(Fenster_Hexedit);
 }
 
 void Speichern_Verbuchen()
@@ -76,8 +86,7 @@ void Speichern_Verbuchen()
     Letzte_Dateien();
     Datei_Geaendert = false;
     Plattform.Status->Schliessen();
-    if (Modus == Modus_MC)
-        Plattform.Edit->Fokus();
+    Hauptfenster_Fokus();
 }
 
 } // namespace
@@ -95,6 +104,7 @@ void Datei_Speichern()
     if (Datei_Fehler == Dateifehler::Keiner)
         Speichern_Verbuchen();
     Plattform.Ereignisse->Mauszeiger_Warten(false);
+    ++Dateien.Vorgang;
 }
 
 } // namespace varnholt

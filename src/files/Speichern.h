@@ -15,10 +15,12 @@ namespace varnholt {
 void Datei_Speichern();
 
 // files/Vergleichen.cpp
-// Compares the image with the file Dialog_Name, which is loaded for that and taken out again, and
-// shows the verdict. The first address that differs, empty when none below 524288 does. A file that
+// Compares the image with a file, which Laden brings into the image (by itself the file
+// Dialog_Name) and which is taken out again, and shows the verdict. Nothing loaded compares the
+// image with itself. The first address that differs, empty when none below 524288 does. A file that
 // couldn't be read gets no verdict; Datei_Fehler is that of the load.
 // reads: Dialog_Name, Hex_Daten   sets: Hex_Puffer, Datei_Fehler
+std::optional<std::int32_t> Hexdaten_Vergleichen(void (*Laden)());
 std::optional<std::int32_t> Hexdaten_Vergleichen();
 
 } // namespace varnholt

@@ -7,6 +7,7 @@
 #include "files/Zeilenabgleich.h"
 #include "files/Zeilenleser.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <vector>
 
@@ -41,9 +42,11 @@ std::string_view Ohne_BOM(std::string_view Bytes, Kodierung Zeichensatz)
     return Zeichensatz == Kodierung::UTF8_mit_BOM ? Bytes.substr(BOM.size()) : Bytes;
 }
 
-std::string Aus_1252(std::string_view Text, Kodierung Zeichensatz)
+// Whether a UTF-8 text that became Aus_1252 has lost a character by that.
+bool Hat_Fremde(std::string_view UTF8, std::string_view Aus_1252)
 {
-    return Zeichensatz == Kodierung::Windows_1252 ? std::string(Text) : Nach_UTF8(Text);
+    return std::count(Aus_1252.begin(), Aus_1252.end(), '?') >
+           std::count(UTF8.begin(), UTF8.end(), '?');
 }
 
 Enden_T Enden_Zaehlen(std::string_view t)
@@ -130,34 +133,77 @@ void Zeile_Anhaengen(std::string& Ziel, std::string_view Inhalt, std::string_vie
     Ziel += Verschmilzt ? CRLF : Ende;
 }
 
-// The text as it was loaded; made again when it was taken out.
+// The text as it was given into the control and came back from there, in UTF-8.
 std::string Alter_Text(const Textdatei_T& Vorlage)
 {
-    return Vorlage.Text.empty() ? Text_Entschluesseln(Vorlage.Original).Text : Vorlage.Text;
+    return Vorlage.Gezeigt.empty() ? Ganzer_Text(Text_Entschluesseln(Vorlage.Original))
+                                   : Vorlage.Gezeigt;
 }
 
-// The bytes of an edited text, without a byte order mark.
-std::string
-Geaenderte_Bytes(std::string_view Text, std::string_view Alt_Text, const Textdatei_T& Vorlage)
-{
-    const std::string_view         Original = Ohne_BOM(Vorlage.Original, Vorlage.Zeichensatz);
-    const std::vector<Textzeile_T> Bytes    = In_Zeilen(Original);
-    const std::vector<Textzeile_T> Neu      = In_Zeilen(Text);
-    const auto             Alt_Von    = Zeilen_Zuordnen(Inhalte(In_Zeilen(Alt_Text)), Inhalte(Neu));
-    const std::string_view Neues_Ende = Zeichen_Des_Endes(Vorlage.Ende);
+// The original bytes of unchanged lines, and how a line is written in the target's encoding.
+class Zeilenschreiber {
+public:
+    Zeilenschreiber(const Textdatei_T& Datei, Kodierung Ziel)
+        : Bytes(In_Zeilen(Ohne_BOM(Datei.Original, Datei.Zeichensatz))),
+          Neues_Ende(Zeichen_Des_Endes(Datei.Ende)), Umschreiben(Datei.Zeichensatz != Ziel),
+          Als_1252(Ziel == Kodierung::Windows_1252)
+    {
+    }
 
-    std::string Ziel;
-    Ziel.reserve(Text.size() + Text.size() / 8);
-    for (std::size_t i = 0; i < Neu.size(); ++i) {
-        const bool             Bekannt = Alt_Von[i] < Bytes.size();
-        const Textzeile_T      Alt     = Bekannt ? Bytes[Alt_Von[i]] : Textzeile_T{};
+    std::size_t Zeilen() const { return Bytes.size(); }
+
+    // A line of the text, which is the line Alt_Nummer of the file or none of it.
+    void Schreiben(std::string& Ziel, const Textzeile_T& Zeile, std::size_t Alt_Nummer) const
+    {
+        const bool             Bekannt = Alt_Nummer < Bytes.size();
+        const Textzeile_T      Alt     = Bekannt ? Bytes[Alt_Nummer] : Textzeile_T{};
         const std::string_view Ende    = Alt.Ende.empty() ? Neues_Ende : Alt.Ende;
         Zeile_Anhaengen(Ziel,
-                        Bekannt ? std::string(Alt.Inhalt)
-                                : Aus_1252(Neu[i].Inhalt, Vorlage.Zeichensatz),
-                        Neu[i].Ende.empty() ? std::string_view{} : Ende);
+                        Bekannt ? Alte_Zeile(Alt.Inhalt) : Neue_Zeile(Zeile.Inhalt),
+                        Zeile.Ende.empty() ? std::string_view{} : Ende);
     }
+
+private:
+    std::string Alte_Zeile(std::string_view z) const
+    {
+        return Umschreiben ? Nach_UTF8(z) : std::string(z);
+    }
+    std::string Neue_Zeile(std::string_view z) const
+    {
+        return Als_1252 ? Aus_UTF8(z) : std::string(z);
+    }
+
+    std::vector<Textzeile_T> Bytes;
+    std::string_view         Neues_Ende;
+    bool                     Umschreiben; // from Windows-1252 to UTF-8
+    bool                     Als_1252;
+};
+
+// The bytes of an edited text, without a byte order mark.
+std::string Geaenderte_Bytes(std::string_view   Text,
+                             std::string_view   Alt_Text,
+                             const Textdatei_T& Vorlage,
+                             Kodierung          Ziel_Kodierung)
+{
+    const Zeilenschreiber          Schreiber(Vorlage, Ziel_Kodierung);
+    const std::vector<Textzeile_T> Neu = In_Zeilen(Text);
+    std::vector<Textzeile_T>       Alt = In_Zeilen(Alt_Text);
+    if (Alt.size() != Schreiber.Zeilen())
+        Alt.clear(); // the control has its own idea of lines: then all are written anew
+    const auto  Alt_Von = Zeilen_Zuordnen(Inhalte(Alt), Inhalte(Neu));
+    std::string Ziel;
+    Ziel.reserve(Text.size() + Text.size() / 8);
+    for (std::size_t i = 0; i < Neu.size(); ++i)
+        Schreiber.Schreiben(Ziel, Neu[i], Alt_Von[i]);
     return Ziel;
+}
+
+// Windows-1252 only while it has all characters of the text.
+Kodierung Ziel_Kodierung(std::string_view Text, const Textdatei_T& Vorlage)
+{
+    const bool Reicht = Vorlage.Zeichensatz != Kodierung::Windows_1252 || Nur_ASCII(Text) ||
+                        !Hat_Fremde(Text, Aus_UTF8(Text));
+    return Reicht ? Vorlage.Zeichensatz : Kodierung::UTF8;
 }
 
 const char* Umgebung(const char* Name)
@@ -176,11 +222,21 @@ Textdatei_T Text_Entschluesseln(std::string Bytes)
     const std::string_view Inhalt = Ohne_BOM(Bytes, Datei.Zeichensatz);
     const Enden_T          Zahl   = Enden_Zaehlen(Inhalt);
     Datei.Ende                    = Haeufigstes(Zahl);
-    Datei.Text                    = ASCII || Datei.Zeichensatz == Kodierung::Windows_1252
-                                        ? Mit_CRLF(Inhalt, Zahl)
-                                        : Mit_CRLF(Aus_UTF8(Inhalt), Zahl);
-    Datei.Original                = std::move(Bytes);
+    if (ASCII || Datei.Zeichensatz == Kodierung::Windows_1252) {
+        Datei.Text = Mit_CRLF(Inhalt, Zahl);
+    } else {
+        const std::string Umgesetzt = Aus_UTF8(Inhalt);
+        Datei.Text                  = Mit_CRLF(Umgesetzt, Zahl);
+        if (Hat_Fremde(Inhalt, Umgesetzt))
+            Datei.Text_UTF8 = Mit_CRLF(Inhalt, Zahl);
+    }
+    Datei.Original = std::move(Bytes);
     return Datei;
+}
+
+std::string Ganzer_Text(const Textdatei_T& Datei)
+{
+    return Datei.Text_UTF8.empty() ? Nach_UTF8(Datei.Text) : Datei.Text_UTF8;
 }
 
 std::string Text_Verschluesseln(std::string_view Text, const Textdatei_T& Vorlage)
@@ -188,13 +244,14 @@ std::string Text_Verschluesseln(std::string_view Text, const Textdatei_T& Vorlag
     const std::string Alt = Alter_Text(Vorlage);
     if (Text == Alt && !Vorlage.Original.empty())
         return Vorlage.Original;
-    std::string Bytes = Geaenderte_Bytes(Text, Alt, Vorlage);
-    if (Vorlage.Zeichensatz == Kodierung::Windows_1252)
+    const Kodierung Ziel  = Ziel_Kodierung(Text, Vorlage);
+    std::string     Bytes = Geaenderte_Bytes(Text, Alt, Vorlage, Ziel);
+    if (Ziel == Kodierung::Windows_1252)
         // What happens to be UTF-8 would be read as such: then it is better UTF-8 of the right
         // text.
         return Nur_ASCII(Bytes) || !Ist_UTF8(Bytes) ? Bytes : Nach_UTF8(Bytes);
     // A character of the number of the mark at the beginning is kept apart from it by a real mark.
-    if (Vorlage.Zeichensatz == Kodierung::UTF8_mit_BOM || Bytes.starts_with(BOM))
+    if (Ziel == Kodierung::UTF8_mit_BOM || Bytes.starts_with(BOM))
         Bytes.insert(0, BOM);
     return Bytes;
 }

@@ -3,6 +3,7 @@
 #include "files/Speichern.h"
 
 #include "core/commands.h"
+#include "core/interface_texts.h"
 #include "core/messages.h"
 #include "core/shared_state.h"
 #include "files/Datei_Zustand.h"
@@ -26,6 +27,7 @@ public:
         Text_Aktuell    = Aktuell;
         Datei_Name      = Name;
         IC_Nummer       = Baustein;
+        IC_Titel_Zeigen();
     }
     static void Bild_Zurueck()
     {
@@ -59,21 +61,26 @@ void Urteil_Melden(bool Gleich)
 
 } // namespace
 
-std::optional<std::int32_t> Hexdaten_Vergleichen()
+std::optional<std::int32_t> Hexdaten_Vergleichen(void (*Laden)())
 {
     std::optional<std::int32_t> Unterschied;
     {
         const Dokument_Bewahren Bewahrt;
+        Plattform.Ereignisse->Mauszeiger_Warten(true);
+        Datei_Fehler     = Dateifehler::Keiner;
         Vergleich_Laeuft = true;
-        Datei_Laden();
+        Laden();
         Vergleich_Laeuft = false;
         Unterschied      = Erster_Unterschied();
         Bewahrt.Bild_Zurueck();
+        Plattform.Ereignisse->Mauszeiger_Warten(false);
         if (Datei_Fehler != Dateifehler::Lesefehler)
             Urteil_Melden(!Unterschied);
     }
     Hex_Anzeige();
     return Unterschied;
 }
+
+std::optional<std::int32_t> Hexdaten_Vergleichen() { return Hexdaten_Vergleichen(Datei_Laden); }
 
 } // namespace varnholt

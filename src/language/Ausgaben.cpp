@@ -54,6 +54,7 @@ void Automatische_Dateien()
     Automatisch_Speichern(Stamm, C_Auto_Hexfile, ".hex");
     Modus        = Modus_MC;
     Letzte_Datei = Letzte;
+    Letzte_Dateien_Zeigen();
 }
 
 } // namespace

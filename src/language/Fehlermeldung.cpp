@@ -61,7 +61,7 @@ std::size_t Zeilen_Anfang(std::string_view Text, int Zeile)
 
 } // namespace
 
-Text_Bereich Fehler_Bereich(std::string_view Text, int Zeile)
+Textstelle_T Fehler_Bereich(std::string_view Text, int Zeile)
 {
     std::size_t i     = Zeilen_Anfang(Text, std::min(Zeile, Letzte_Zeile(Text)));
     i                 = std::min(Text.find_first_not_of(" \t\n", i), Text.size());
@@ -84,7 +84,7 @@ void Fehlermeldung_Zeigen()
     Include_Zeile_Waehlen();
     const std::string Text    = Plattform.Edit->Text();
     Fehler_Zeile              = std::min(Editor_Zeile(), Letzte_Zeile(Text));
-    const Text_Bereich Stelle = Fehler_Bereich(Text, Fehler_Zeile);
+    const Textstelle_T Stelle = Fehler_Bereich(Text, Fehler_Zeile);
     Plattform.Edit->Auswaehlen(static_cast<std::int64_t>(Text.size()), 0); // scrolls the view
     Plattform.Edit->Auswaehlen(Stelle.Anfang, Stelle.Laenge);
     Text_Sperre = Gesperrt;

@@ -1,7 +1,8 @@
 // Showing an assembler error: which line of the editor it is, and the selection there.
 #pragma once
 
-#include <cstdint>
+#include "core/platform.h"
+
 #include <string_view>
 
 namespace varnholt {
@@ -10,13 +11,8 @@ namespace varnholt {
 // reads: Fehlertext, Zeilen_Index, Include_Liste, Edit   sets: Assembler_Fehler, Fehler_Zeile
 void Fehlermeldung_Zeigen();
 
-// A piece of the editor's text, positions from 0.
-struct Text_Bereich {
-    std::int64_t Anfang = 0;
-    std::int64_t Laenge = 0;
-};
 // What is selected of a line (from 0): from its first character to the last one ahead of a comment.
 // A line behind the end counts as the last one.
-Text_Bereich Fehler_Bereich(std::string_view Text, int Zeile);
+Textstelle_T Fehler_Bereich(std::string_view Text, int Zeile);
 
 } // namespace varnholt

@@ -2,6 +2,7 @@
 // from the selection for the menu.
 #include "core/codepage.h"
 #include "core/commands.h"
+#include "core/interface_texts.h"
 #include "core/messages.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
@@ -97,7 +98,11 @@ void IC_Waehlen(int Nummer)
         IC_Typ_Löschen();
 }
 
-void IC_Typ_Löschen() { IC_Nummer = -1; }
+void IC_Typ_Löschen()
+{
+    IC_Nummer = -1;
+    IC_Titel_Zeigen();
+}
 
 bool Loeschen_Moeglich(const Geraet_T& Geraet)
 {

@@ -2,7 +2,14 @@
 #include "files/Laden.h"
 
 #include "core/commands.h"
+#include "core/menu.h"
+#include "core/settings.h"
+#include "core/undo.h"
 #include "core/views.h"
+#include "core/windows.h"
+#include "editors/Einfaerben.h"
+#include "editors/Hexedit.h"
+#include "editors/Sprungmarken.h"
 #include "files/Dateien_Welt.h"
 #include "files/Dateizugriff.h"
 #include "programmer/Geraete.h"
@@ -187,13 +194,45 @@ TEST_F(Laden_Welt, a_HEX_file_switches_to_the_Hex_Editor)
     Laden("a.hex", ":0100000001FE");
     EXPECT_EQ(Modus, Modus_Hex);
     EXPECT_EQ(Ansichten.Anordnung_Stand, 1u);
-    EXPECT_EQ(Ereignisse.Runden, 1);
+    EXPECT_TRUE(Fenster.Sichtbar(Fenster_Hexedit));
+    EXPECT_FALSE(Fenster.Sichtbar(Fenster_Edit));
+    EXPECT_TRUE(Menue("MNU_Hex").Haken && Menue("MNU_vergleiche_hexdaten").Aktiv);
 }
 TEST_F(Laden_Welt, a_source_switches_to_the_MC_Editor)
 {
     Laden("a.asm", "NOP");
     EXPECT_EQ(Modus, Modus_MC);
     EXPECT_EQ(Ansichten.Anordnung_Stand, 1u);
+    EXPECT_GE(Ereignisse.Runden, 1);
+    EXPECT_TRUE(Fenster.Sichtbar(Fenster_Edit));
+    EXPECT_FALSE(Fenster.Sichtbar(Fenster_Hexedit));
+    EXPECT_TRUE(Menue("MNU_MC").Haken && Menue("MNU_Debugger_Stoppunkt").Aktiv);
+}
+TEST_F(Laden_Welt, at_start_up_the_window_of_the_new_mode_is_not_shown_yet)
+{
+    Init_Laeuft = true;
+    Laden("a.asm", "NOP");
+    EXPECT_EQ(Modus, Modus_MC);
+    EXPECT_FALSE(Fenster.Sichtbar(Fenster_Edit));
+    EXPECT_EQ(Fenster_Wert(1, Fenster_Edit, Feld::Sichtbar), -1);
+}
+TEST_F(Laden_Welt, a_source_is_coloured_and_its_jumpmarks_are_listed)
+{
+    Laden("a.asm", "Mark: NOP ; note\n");
+    EXPECT_EQ(Edit.Farbe_An(0), Farbe_Marke);
+    EXPECT_EQ(Edit.Farbe_An(10), Farbe_Kommentar);
+    EXPECT_EQ(Sprungmarken_Anzahl, 1);
+    EXPECT_FALSE(Text_Sperre);
+}
+TEST_F(Laden_Welt, a_text_that_nobody_sees_is_not_coloured)
+{
+    class Ungesehen : public Speicher_Text {
+        bool Wird_Gezeigt() const override { return false; }
+    } Feld;
+    Plattform.Edit = &Feld;
+    Laden("a.asm", "Mark: NOP ; \xE4\xB8\xAD\n");
+    EXPECT_EQ(Feld.Inhalt, "Mark: NOP ; ?\r\n");
+    EXPECT_TRUE(Feld.Farben({0, 14}).empty());
 }
 TEST_F(Laden_Welt, a_file_of_the_mode_does_not_arrange_the_windows_anew)
 {
@@ -280,10 +319,19 @@ TEST_F(Laden_Welt, a_partial_load_ends_with_the_usual_bookkeeping)
     EXPECT_EQ(Datei_Name, Dialog_Name);
     EXPECT_EQ(Ereignisse.Titel_Texte.back(), "1:Hex-Editor " + Dialog_Name);
     EXPECT_EQ(IC_Nummer, -1);
+    EXPECT_EQ(Menue("MNU_IC").Titel, "Programmer");
     EXPECT_EQ(Letzte_Datei[0], Dialog_Name);
     EXPECT_EQ(Dialog_Verzeichnis, Ordner.Pfad.string());
     EXPECT_FALSE(Datei_Geaendert || Text_Aktuell || Text_Veraendert);
     EXPECT_EQ(Notiz.Inhalt, "");
+}
+TEST_F(Laden_Welt, a_partial_load_sets_the_scroll_bar_as_at_start)
+{
+    Hexedit_Resize(20 * Zeilen_Hoehe_Ueblich);
+    ASSERT_EQ(Hexedit.Scroll_Max, Scroll_Max_Nach_Zug);
+    Box.Bereiche = {1};
+    Lange_Datei_Laden(Halb + 1);
+    EXPECT_EQ(Hexedit.Scroll_Max, Scroll_Max_Am_Anfang(Hexedit.R));
 }
 TEST_F(Laden_Welt, a_partial_load_takes_notes_from_an_RTF_file_where_there_is_no_note_file)
 {
@@ -521,6 +569,33 @@ TEST_F(Laden_Welt, folder_recent_files_and_flags_follow_the_load)
     EXPECT_FALSE(Datei_Geaendert || Text_Aktuell || Text_Veraendert);
     EXPECT_FALSE(Ereignisse.Zeiger_Wartet);
     EXPECT_EQ(IC_Nummer, 7);
+}
+TEST_F(Laden_Welt, the_recent_files_are_shown)
+{
+    Letzte_Datei = {"one", "", ""};
+    Laden("a.asm", "x");
+    EXPECT_EQ(Menue("MNU_Datei1").Titel, Dialog_Name);
+    EXPECT_EQ(Menue("MNU_Datei2").Titel, "one");
+    EXPECT_TRUE(Menue("MNU_Datei2").Sichtbar && Menue("MNU_Leer3").Sichtbar);
+    EXPECT_FALSE(Menue("MNU_Datei3").Sichtbar);
+}
+TEST_F(Laden_Welt, a_load_starts_the_undo_ring_anew)
+{
+    Undo_Max      = 9;
+    Undo_Index    = 4;
+    Undo_Begonnen = true;
+    Laden("a.asm", "x");
+    EXPECT_EQ(Undo_Index, 0);
+    EXPECT_EQ(Undo_Ende, 9);
+    EXPECT_EQ(Undo_Oben, 1);
+    EXPECT_FALSE(Undo_Begonnen || Menue("MNU_Undo").Aktiv || Werkzeug(15).Aktiv);
+}
+TEST_F(Laden_Welt, a_load_that_fails_keeps_the_undo_ring)
+{
+    Undo_Index  = 4;
+    Dialog_Name = "/dev/null";
+    Datei_Laden();
+    EXPECT_EQ(Undo_Index, 4);
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 // Saving as the user meets it: formats, refusals, notes, bookkeeping, and that nothing gets lost.
 #include "files/Speichern.h"
 
+#include "core/codepage.h"
 #include "core/commands.h"
+#include "core/menu.h"
 #include "core/views.h"
 #include "files/Dateien_Welt.h"
 #include "files/Laden.h"
@@ -206,6 +208,84 @@ TEST_F(Quelle_Speichern_Welt, a_failed_write_keeps_what_is_known_of_the_loaded_f
     EXPECT_EQ(Speichern("a.asm"), "; \xE4\xB8\xAD\n");
 }
 
+// An editor that knows every character.
+class Reiches_Feld : public Speicher_Text {
+public:
+    void Text_Setzen(std::string Neuer) override { Text_Setzen_UTF8(Nach_UTF8(Neuer)); }
+    void Text_Setzen_UTF8(std::string_view Neuer) override
+    {
+        Ganz   = Neuer;
+        Inhalt = Aus_UTF8(Neuer);
+    }
+    std::string Text_UTF8() const override { return Ganz; }
+    std::string Ganz{};
+};
+
+class Reiche_Quelle_Welt : public Quelle_Speichern_Welt {
+protected:
+    Reiche_Quelle_Welt() { Plattform.Edit = &Feld; }
+    std::string Bearbeitet(const std::string& Bytes, const std::string& Alt, const std::string& Neu)
+    {
+        Laden("a.asm", Bytes);
+        Ersetzen(Alt, Neu);
+        return Speichern("a.asm");
+    }
+    void Ersetzen(const std::string& Alt, const std::string& Neu)
+    {
+        std::string Text = Feld.Ganz;
+        Feld.Text_Setzen_UTF8(Text.replace(Text.find(Alt), Alt.size(), Neu));
+    }
+    Reiches_Feld Feld{};
+};
+
+TEST_F(Reiche_Quelle_Welt, the_editor_gets_every_character_of_a_file)
+{
+    Laden("a.asm", "; \xE4\xB8\xAD\n");
+    EXPECT_EQ(Feld.Ganz, "; \xE4\xB8\xAD\r\n");
+    Laden("a.asm", "; \xE4\n");
+    EXPECT_EQ(Feld.Ganz, "; \xC3\xA4\r\n");
+}
+TEST_F(Reiche_Quelle_Welt, unchanged_it_is_the_same_to_the_byte)
+{
+    for (const std::string& Bytes : {std::string("; \xE4\xB8\xAD\r\nNOP\n\rRET"),
+                                     std::string("\xEF\xBB\xBF; \xE4\xB8\xAD\n"),
+                                     std::string("; \xE4\r")}) {
+        Laden("a.asm", Bytes);
+        EXPECT_EQ(Speichern("a.asm"), Bytes);
+        EXPECT_EQ(Speichern("a.asm"), Bytes);
+    }
+}
+TEST_F(Reiche_Quelle_Welt, an_edited_line_keeps_its_outside_characters)
+{
+    EXPECT_EQ(Bearbeitet("; \xE4\xB8\xAD\nNOP\n", ";", "RET ;"), "RET ; \xE4\xB8\xAD\nNOP\n");
+}
+TEST_F(Reiche_Quelle_Welt, a_question_mark_typed_over_an_outside_character_is_saved)
+{
+    EXPECT_EQ(Bearbeitet("; \xE4\xB8\xAD\n", "\xE4\xB8\xAD", "?"), "; ?\n");
+}
+TEST_F(Reiche_Quelle_Welt, a_typed_outside_character_makes_a_Windows_1252_file_UTF8_for_good)
+{
+    EXPECT_EQ(Bearbeitet("; \xE4\nNOP\n", "NOP", "; \xE4\xB8\xAD"), "; \xC3\xA4\n; \xE4\xB8\xAD\n");
+    Ersetzen("\xE4\xB8\xAD", "x");
+    EXPECT_EQ(Speichern("a.asm"), "; \xC3\xA4\n; x\n");
+}
+TEST_F(Reiche_Quelle_Welt, a_new_text_with_an_outside_character_is_UTF8)
+{
+    Feld.Text_Setzen_UTF8("; \xC3\xA4\xE4\xB8\xAD\r\n");
+    EXPECT_EQ(Speichern("new.asm"), "; \xC3\xA4\xE4\xB8\xAD\r\n");
+}
+TEST_F(Reiche_Quelle_Welt, notes_keep_their_outside_characters_too)
+{
+    Reiches_Feld Notizen;
+    Plattform.Notiz = &Notizen;
+    Ordner.Anlegen("a.not", "\xE4\xB8\xAD\n");
+    Laden("a.asm", "NOP");
+    EXPECT_EQ(Notizen.Ganz, "\xE4\xB8\xAD\r\n");
+    Notizen.Text_Setzen_UTF8("\xE4\xB8\xAD\xE6\x96\x87\r\n");
+    Speichern("a.asm");
+    EXPECT_EQ(Bytes_Von(Ordner.Name("a.not")), "\xE4\xB8\xAD\xE6\x96\x87\n");
+}
+
 // --- notes ---------------------------------------------------------------------------------------
 
 TEST_F(Speichern_Welt, notes_are_saved_beside_the_document)
@@ -262,6 +342,20 @@ TEST_F(Speichern_Welt, caption_recent_files_and_flags_follow_the_save)
     EXPECT_FALSE(Ereignisse.Zeiger_Wartet);
     EXPECT_FALSE(Edit.Hat_Fokus);
     EXPECT_EQ(Datei_Fehler, Dateifehler::Keiner);
+}
+TEST_F(Speichern_Welt, the_focus_goes_to_the_hex_editor_where_it_is_visible)
+{
+    Speichern("a.bin"); // an assembly saves its image behind the source
+    EXPECT_TRUE(Fenster.Protokoll.empty());
+    Fenster.Zu(1).Sichtbar = true;
+    Speichern("a.bin");
+    EXPECT_EQ(Fenster.Protokoll, std::vector<std::string>{"Fokus 1"});
+}
+TEST_F(Speichern_Welt, the_recent_files_are_shown)
+{
+    Speichern("a.bin");
+    EXPECT_EQ(Menue("MNU_Datei1").Titel, Datei_Name);
+    EXPECT_TRUE(Menue("MNU_Datei1").Sichtbar && Menue("MNU_Leer3").Sichtbar);
 }
 TEST_F(Speichern_Welt, while_a_comparison_runs_the_caption_stays)
 {

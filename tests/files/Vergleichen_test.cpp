@@ -2,6 +2,8 @@
 #include "files/Speichern.h"
 
 #include "core/commands.h"
+#include "core/interface_texts.h"
+#include "core/menu.h"
 #include "core/views.h"
 #include "files/Dateien_Welt.h"
 #include "programmer/Geraete.h"
@@ -89,7 +91,10 @@ TEST_F(Vergleichen_Welt, everything_is_as_before_afterwards)
     Notiz.Inhalt                   = "notes";
     IC_Nummer                      = 7;
     Ordner.Anlegen("a.not", "other notes");
+    IC_Titel_Zeigen();
+    const std::string IC_Titel = Menue("MNU_IC").Titel;
     Vergleichen("a.mhx", "S1040000AA51"); // this format clears the device selection
+    EXPECT_EQ(Menue("MNU_IC").Titel, IC_Titel);
     EXPECT_TRUE(Nur_Bytes(7, {1, 2, 3}));
     EXPECT_EQ(Hex_Groesse, Bild_Groesse);
     EXPECT_EQ(Datei_Name, "doc.bin");

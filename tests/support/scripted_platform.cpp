@@ -52,6 +52,87 @@ void Skript_Ereignisse::Titel(int Fenster, std::string_view Text)
     Titel_Texte.push_back(std::to_string(Fenster) + ":" + std::string(Text));
 }
 
+namespace {
+
+const char* Formular_Name(Formular Welches)
+{
+    switch (Welches) {
+    case Formular::Start:
+        return "Start";
+    case Formular::Erststart:
+        return "Erststart";
+    case Formular::Abfrage_Modus:
+        return "Abfrage_Modus";
+    case Formular::Optionen:
+        break;
+    }
+    return "Optionen";
+}
+
+} // namespace
+
+void Skript_Fenster::Sichtbar_Setzen(int Nummer, bool Sichtbar)
+{
+    Zu(Nummer).Sichtbar = Sichtbar;
+    Protokoll.push_back("Sichtbar " + std::to_string(Nummer) + (Sichtbar ? " 1" : " 0"));
+}
+
+void Skript_Fenster::Lage_Setzen(int Nummer, const Lage_T& Neue)
+{
+    Zu(Nummer).Lage  = Neue;
+    std::string Text = "Lage " + std::to_string(Nummer);
+    for (const int Wert : {Neue.Oben, Neue.Links, Neue.Hoehe, Neue.Breite})
+        Text += " " + std::to_string(Wert);
+    Protokoll.push_back(Text);
+}
+
+void Skript_Fenster::Fokus(int Nummer) { Protokoll.push_back("Fokus " + std::to_string(Nummer)); }
+
+void Skript_Fenster::Bildschirm_Fuellen() { Protokoll.emplace_back("Bildschirm_Fuellen"); }
+
+void Skript_Fenster::Hintergrund(std::int32_t Farbe)
+{
+    Hintergruende.push_back(Farbe);
+    Protokoll.emplace_back("Hintergrund");
+}
+
+void Skript_Fenster::Formular_Zeigen(Formular Welches)
+{
+    Protokoll.push_back(std::string("Zeigen ") + Formular_Name(Welches));
+    if (Bei_Formular)
+        Bei_Formular(Welches);
+}
+
+void Skript_Fenster::Formular_Entladen(Formular Welches)
+{
+    Protokoll.push_back(std::string("Entladen ") + Formular_Name(Welches));
+}
+
+void Skript_Fenster::Programm_Beenden()
+{
+    Beendet = true;
+    Protokoll.emplace_back("Beenden");
+}
+
+void Skript_Dialoge::Datei_Waehlen(Dateiwahl_T& Wahl)
+{
+    Gefragt.push_back(Wahl);
+    Wahl.Name          = Naechste(Namen, std::string{});
+    Wahl.Filter_Nummer = Naechste(Filter, Wahl.Filter_Nummer);
+}
+
+std::optional<Schrift_T> Skript_Dialoge::Schrift_Waehlen(const Schrift_T& Bisher)
+{
+    Schrift_Gefragt.push_back(Bisher);
+    return Naechste(Schriften, std::optional<Schrift_T>{});
+}
+
+std::optional<std::int32_t> Skript_Dialoge::Farbe_Waehlen(std::int32_t Bisher)
+{
+    Farbe_Gefragt.push_back(Bisher);
+    return Naechste(Farben, std::optional<std::int32_t>{});
+}
+
 Welt::Welt()
 {
     Alles_Zuruecksetzen();
@@ -61,6 +142,10 @@ Welt::Welt()
     Plattform.Ereignisse = &Ereignisse;
     Plattform.Edit       = &Edit;
     Plattform.Notiz      = &Notiz;
+    Plattform.Fenster    = &Fenster;
+    Plattform.Dialog     = &Dialog;
+    Plattform.Ablage     = &Ablage;
+    Plattform.Umgebung   = &Umgebung;
 }
 
 Welt::~Welt() { Alles_Zuruecksetzen(); }

@@ -6,8 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -47,11 +49,12 @@ public:
 
 class Skript_Ereignisse : public Ereignisschleife {
 public:
-    void Eine_Runde() override;
-    void Mauszeiger_Warten(bool Warten) override { Zeiger_Wartet = Warten; }
-    void Fenster_Sperren(bool Gesperrt) override { Fenster_Gesperrt = Gesperrt; }
-    void Pause(double Sekunden) override { Gewartet += Sekunden; }
-    void Titel(int Fenster, std::string_view Text) override;
+    void   Eine_Runde() override;
+    void   Mauszeiger_Warten(bool Warten) override { Zeiger_Wartet = Warten; }
+    void   Fenster_Sperren(bool Gesperrt) override { Fenster_Gesperrt = Gesperrt; }
+    void   Pause(double Sekunden) override { Gewartet += Sekunden; }
+    void   Titel(int Fenster, std::string_view Text) override;
+    double Sekunden() override { return Uhrzeit += Je_Blick; }
 
     std::function<void(int)> Bei_Runde{}; // called at every turn with its number, from 1
     int                      Runden           = 0;
@@ -59,6 +62,84 @@ public:
     bool                     Fenster_Gesperrt = false;
     double                   Gewartet         = 0;
     std::vector<std::string> Titel_Texte{};
+    double                   Uhrzeit  = 36000; // seconds since midnight
+    double                   Je_Blick = 0.125; // what passes between two looks at the clock
+};
+
+// Windows that only remember; every call that changes something is noted as a line of Protokoll,
+// such as "Sichtbar 2 1", "Lage 5 0 100 200 300", "Fokus 2", "Zeigen Optionen", "Entladen Start".
+class Skript_Fenster : public Fensterwelt {
+public:
+    bool   Sichtbar(int Fenster) const override { return Zu(Fenster).Sichtbar; }
+    void   Sichtbar_Setzen(int Fenster, bool Sichtbar) override;
+    Lage_T Lage(int Fenster) const override { return Zu(Fenster).Lage; }
+    void   Lage_Setzen(int Fenster, const Lage_T& Neue) override;
+    void   Fokus(int Fenster) override;
+    Lage_T Innenmass() const override { return Innen; }
+    void   Bildschirm_Fuellen() override;
+    void   Hauptfenster_Titel(std::string_view Text) override { Titel = Text; }
+    void   Hintergrund(std::int32_t Farbe) override;
+    void   Schrift_Setzen(int Fenster, const Schrift_T& Schrift) override
+    {
+        Zu(Fenster).Schrift = Schrift;
+    }
+    void Formular_Zeigen(Formular Welches) override;
+    void Formular_Entladen(Formular Welches) override;
+    void Start_Text(std::string_view Text) override { Start_Texte.emplace_back(Text); }
+    void Programm_Beenden() override;
+
+    struct Eines_T {
+        bool      Sichtbar = false;
+        Lage_T    Lage{};
+        Schrift_T Schrift{};
+    };
+    Eines_T&       Zu(int Fenster) { return Alle.at(static_cast<std::size_t>(Fenster)); }
+    const Eines_T& Zu(int Fenster) const { return Alle.at(static_cast<std::size_t>(Fenster)); }
+
+    std::array<Eines_T, 13>       Alle{};
+    Lage_T                        Innen{0, 0, 800, 1280};
+    std::string                   Titel{};
+    std::vector<std::int32_t>     Hintergruende{};
+    std::vector<std::string>      Start_Texte{};
+    std::vector<std::string>      Protokoll{};
+    std::function<void(Formular)> Bei_Formular{}; // the user in front of a form that is shown
+    bool                          Beendet = false;
+};
+
+class Skript_Dialoge : public Dialoge {
+public:
+    void                        Datei_Waehlen(Dateiwahl_T& Wahl) override;
+    std::optional<Schrift_T>    Schrift_Waehlen(const Schrift_T& Bisher) override;
+    std::optional<std::int32_t> Farbe_Waehlen(std::int32_t Bisher) override;
+
+    std::vector<Dateiwahl_T>                Gefragt{}; // as each file dialog was opened
+    std::deque<std::string>                 Namen{};   // names chosen; cancelled when empty
+    std::deque<int>                         Filter{};  // filters chosen; unchanged when empty
+    std::vector<Schrift_T>                  Schrift_Gefragt{};
+    std::deque<std::optional<Schrift_T>>    Schriften{};
+    std::vector<std::int32_t>               Farbe_Gefragt{};
+    std::deque<std::optional<std::int32_t>> Farben{};
+};
+
+class Skript_Ablage : public Zwischenablage {
+public:
+    std::string Text() const override { return Inhalt; }
+    void        Setzen(std::string_view Text) override { Inhalt = Text; }
+    std::string Inhalt{};
+};
+
+class Skript_Umgebung : public Schale {
+public:
+    bool Oeffnen(std::string_view Ort) override
+    {
+        Orte.emplace_back(Ort);
+        return Nimmt_An;
+    }
+    void Dateityp_Verknuepfen(const Dateityp_T& Typ) override { Typen.push_back(Typ); }
+
+    std::vector<std::string> Orte{};
+    std::vector<Dateityp_T>  Typen{};
+    bool                     Nimmt_An = true;
 };
 
 // Base of the tests: every one starts from the reset state, in English, with the scripted world.
@@ -75,6 +156,10 @@ protected:
     Skript_Ereignisse Ereignisse{};
     Speicher_Text     Edit{};
     Speicher_Text     Notiz{};
+    Skript_Fenster    Fenster{};
+    Skript_Dialoge    Dialog{};
+    Skript_Ablage     Ablage{};
+    Skript_Umgebung   Umgebung{};
 };
 
 } // namespace varnholt::test

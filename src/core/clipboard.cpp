@@ -1,0 +1,168 @@
+// Cut, copy, paste and delete: routed by the window that has the focus. The hex editor's halves
+// stand in editors/Hexablage.
+#include "core/clipboard.h"
+
+#include "core/commands.h"
+#include "core/shared_state.h"
+#include "core/undo.h"
+#include "core/windows.h"
+#include "editors/Hexablage.h"
+#include "editors/Quelltext.h"
+#include "editors/Quelltext_Sperre.h"
+#include "files/Zeilenleser.h"
+
+namespace varnholt {
+namespace {
+
+// The text control that the commands act on; null when it is another window, or locked.
+Textfeld* Aktives_Textfeld()
+{
+    if (Aktives_Fenster == Fenster_Edit)
+        return Plattform.Edit;
+    return Aktives_Fenster == Fenster_Notiz ? Plattform.Notiz : nullptr;
+}
+
+Textfeld* Offenes_Textfeld()
+{
+    Textfeld* Feld = Aktives_Textfeld();
+    return Feld == Plattform.Edit && Debugger_Aktiv ? nullptr : Feld;
+}
+
+// The document has unsaved changes: the flags and the caption of its window.
+void Geaendert_Markieren(const Textfeld* Feld)
+{
+    if (Feld == Plattform.Edit)
+        return Text_Change();
+    Datei_Geaendert = true;
+    if (Modus == Modus_MC)
+        Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor (*)" + Datei_Name);
+    else
+        Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor (*)" + Datei_Name);
+}
+
+// Notes have no undo.
+void Schritt_Abschliessen(const Textfeld* Feld)
+{
+    if (Feld != Plattform.Edit)
+        return;
+    Undo_Schritt_speichern();
+    Undo_Oben = Undo_Index;
+}
+
+bool Hat_Marke(std::string_view Text) { return Text.find(':') != std::string_view::npos; }
+
+// Puts a text in place of the selection. The list of the jumpmarks follows what goes and comes.
+void Auswahl_Tauschen(Textfeld* Feld, std::string_view Neuer)
+{
+    const bool Quelle = Feld == Plattform.Edit;
+    const bool Marken = Quelle && (Hat_Marke(Neuer) || Hat_Marke(Feld->Auswahl_Text()));
+    Feld->Auswahl_Ersetzen_UTF8(Neuer);
+    if (Marken)
+        Sprungmarken_Fuellen();
+}
+
+std::vector<Farbstelle_T> Verschoben(std::vector<Farbstelle_T> Farben, std::int64_t Um)
+{
+    for (Farbstelle_T& f : Farben)
+        f.Anfang += Um;
+    return Farben;
+}
+
+void Auswahl_Merken(const Textfeld* Feld)
+{
+    const Textstelle_T Stelle = Feld->Auswahl();
+    Ablage.Gemerkter_Text     = Feld->Auswahl_Text_UTF8();
+    Ablage.Gemerkte_Farben    = Verschoben(Feld->Farben(Stelle), -Stelle.Anfang);
+    Plattform.Ablage->Setzen_UTF8(Ablage.Gemerkter_Text);
+}
+
+void Auswahl_Loeschen(Textfeld* Feld)
+{
+    if (Feld->Auswahl().Laenge > 0) {
+        const Edit_Ruhe Ruhe;
+        Auswahl_Tauschen(Feld, {});
+    }
+    Geaendert_Markieren(Feld);
+}
+
+// Puts the text in, with its colours where they are remembered; colours its lines in the editor.
+void Text_Einsetzen(Textfeld* Feld, const std::string& Text)
+{
+    const Edit_Ruhe    Ruhe;
+    const std::int64_t Anfang = Feld->Auswahl().Anfang;
+    Auswahl_Tauschen(Feld, Text);
+    const std::int64_t Ende = Feld->Auswahl().Anfang;
+    if (Text == Ablage.Gemerkter_Text) {
+        const Farbstelle_T Schwarz{Anfang, Ende - Anfang, 0};
+        Feld->Faerben({&Schwarz, 1});
+        Feld->Faerben(Verschoben(Ablage.Gemerkte_Farben, Anfang));
+    }
+    if (Feld == Plattform.Edit)
+        Zeilen_Einfaerben(Feld->Zeile_Von(Anfang), Feld->Zeile_Von(Ende));
+    Feld->Auswaehlen(Ende, 0);
+}
+
+void In_Textfeld_Einfuegen(Textfeld* Feld)
+{
+    const std::string Text = Mit_CR_LF(Plattform.Ablage->Text_UTF8());
+    if (Text.empty()) // a picture, say: the selection is not to go for nothing
+        return;
+    Schritt_Abschliessen(Feld);
+    Text_Einsetzen(Feld, Text);
+    Geaendert_Markieren(Feld);
+}
+
+} // namespace
+
+std::string Mit_CR_LF(std::string_view Text)
+{
+    std::string Ziel;
+    Ziel.reserve(Text.size());
+    Zeilenleser Leser(Text);
+    for (Textzeile_T Zeile; Leser.Weiter(Zeile);) {
+        Ziel += Zeile.Inhalt;
+        if (!Zeile.Ende.empty())
+            Ziel += CRLF;
+    }
+    return Ziel;
+}
+
+void MNU_Kopieren_Click()
+{
+    if (Aktives_Fenster == Fenster_Hexedit)
+        return Hexedit_Kopieren();
+    const Textfeld* Feld = Aktives_Textfeld();
+    if (Feld != nullptr && Feld->Auswahl().Laenge > 0)
+        Auswahl_Merken(Feld);
+}
+
+void MNU_Ausschneiden_Click()
+{
+    if (Aktives_Fenster == Fenster_Hexedit)
+        return Hexedit_Ausschneiden();
+    const Textfeld* Feld = Offenes_Textfeld();
+    if (Feld == nullptr)
+        return;
+    Geaendert_Markieren(Feld);
+    Schritt_Abschliessen(Feld);
+    MNU_Kopieren_Click();
+    MNU_Löschen_Click();
+}
+
+void MNU_Löschen_Click()
+{
+    if (Aktives_Fenster == Fenster_Hexedit)
+        return Hexedit_Loeschen();
+    if (Textfeld* Feld = Offenes_Textfeld())
+        Auswahl_Loeschen(Feld);
+}
+
+void MNU_Einfügen_Click()
+{
+    if (Aktives_Fenster == Fenster_Hexedit)
+        return Hexedit_Einfuegen();
+    if (Textfeld* Feld = Offenes_Textfeld())
+        In_Textfeld_Einfuegen(Feld);
+}
+
+} // namespace varnholt

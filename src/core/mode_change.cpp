@@ -1,0 +1,110 @@
+// The mode change: assembles or disassembles what is not in step, and brings the other main window
+// to the front.
+#include "core/commands.h"
+#include "core/menu.h"
+#include "core/platform.h"
+#include "core/session.h"
+#include "core/settings.h"
+#include "core/shared_state.h"
+#include "core/undo.h"
+#include "core/windows.h"
+#include "editors/Quelltext.h"
+#include "files/Datei_Zustand.h"
+#include "language/Assembler_Zustand.h"
+
+#include <utility>
+
+namespace varnholt {
+namespace {
+
+void Hauptfenster_Zeigen(int Nummer, int Spalte, bool Gezeigt)
+{
+    Fenster_Wert(Spalte, Nummer, Feld::Sichtbar) = Gezeigt ? -1 : 0;
+    if (!Gezeigt || !Init_Laeuft)
+        Plattform.Fenster->Sichtbar_Setzen(Nummer, Gezeigt);
+}
+
+// The image as text, when it is newer than the text; false when the user gave up.
+bool Text_Erneuern()
+{
+    if (Text_Aktuell)
+        return true;
+    if (!Disassemblieren())
+        return false;
+    Quell_Datei = {}; // no file stands behind the new text
+    Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor (*)");
+    return true;
+}
+
+// The text as image, when it is newer than the image; false when it has an error, which is then on
+// display.
+bool Bild_Erneuern()
+{
+    if (Plattform.Edit->Laenge() > 0 && !Text_Aktuell) {
+        Assemblieren();
+        Quellzeilen_Loeschen();
+        Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor (*)");
+    }
+    return std::exchange(Assembler_Fehler, 0) != 1;
+}
+
+void In_MC_Editor()
+{
+    if (!Text_Erneuern())
+        return;
+    In_Modus_Wechseln(Modus_MC);
+    Edit_Activate();
+}
+
+void In_Hex_Editor()
+{
+    Sitzung_Beenden();
+    if (Autosave_Assemblieren)
+        Autosave_Speichern();
+    if (!Bild_Erneuern())
+        return;
+    In_Modus_Wechseln(Modus_Hex);
+    Hex_Anzeige();
+    Undo_Zuruecksetzen();
+}
+
+} // namespace
+
+void In_Modus_Wechseln(int Neuer)
+{
+    Modus = Neuer;
+    Hauptfenster_Zeigen(Fenster_Hexedit, 0, Neuer == Modus_Hex);
+    Hauptfenster_Zeigen(Fenster_Edit, 1, Neuer == Modus_MC);
+    Modus_Tabelle_Anwenden();
+    Fenster_Anordnen();
+}
+
+void Ansicht_umschalten()
+{
+    Plattform.Ereignisse->Mauszeiger_Warten(true);
+    Undo_Ende  = Undo_Max;
+    Undo_Index = 0;
+    Undo_Oben  = 1;
+    if (Modus == Modus_Hex)
+        In_MC_Editor();
+    else
+        In_Hex_Editor();
+    Plattform.Ereignisse->Mauszeiger_Warten(false);
+}
+
+void MNU_MC_Click()
+{
+    if (!Plattform.Fenster->Sichtbar(Fenster_Edit))
+        Ansicht_umschalten();
+}
+
+void MNU_Hex_Click()
+{
+    Sitzung_Beenden();
+    if (!Plattform.Fenster->Sichtbar(Fenster_Hexedit))
+        Ansicht_umschalten();
+    if (Plattform.Fenster->Sichtbar(Fenster_Hexedit))
+        Plattform.Fenster->Fokus(Fenster_Hexedit);
+}
+
+} // namespace varnholt

@@ -1,0 +1,264 @@
+// The main window: its parts, and how events reach the logic. The wall's side is in
+// MDI_Fenster.cpp.
+#include "ui/MDI.h"
+
+#include "core/commands.h"
+#include "core/messages.h"
+#include "core/settings.h"
+#include "core/shared_state.h"
+#include "core/windows.h"
+#include "editors/Hexedit.h"
+#include "editors/Notiz.h"
+#include "editors/Quelltext.h"
+#include "editors/Sprungmarken.h"
+#include "files/Datei_Zustand.h"
+#include "files/Dateikommandos.h"
+#include "ui/Bilder.h"
+#include "ui/Dateiwaechter.h"
+#include "ui/Fremd_Hinweis.h"
+#include "ui/Hexedit_Fenster.h"
+#include "ui/Kindfenster.h"
+#include "ui/Menueleiste.h"
+#include "ui/Qt_Text.h"
+#include "ui/Quelltext_Feld.h"
+#include "ui/Spr_Fenster.h"
+#include "ui/Statuszeile.h"
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QTextBlock>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace varnholt {
+
+MDI::MDI()
+{
+    setObjectName(QStringLiteral("MDI"));
+    setWindowIcon(Programm_Bild());
+    setAcceptDrops(true);
+    Kinder_Bauen();
+    Leisten  = new Menueleiste(this, [this](const auto& Befehl) { Ausfuehren(Befehl); });
+    Zeile    = new Statuszeile(this);
+    Waechter = new Dateiwaechter(this);
+    setStatusBar(Zeile);
+    Welt_Einsetzen();
+    Kinder_Verbinden();
+    // Whatever an event has changed is shown before the program waits for the next one.
+    connect(QAbstractEventDispatcher::instance(),
+            &QAbstractEventDispatcher::aboutToBlock,
+            this,
+            &MDI::Nachziehen);
+}
+
+MDI::~MDI()
+{
+    disconnect(QAbstractEventDispatcher::instance(), nullptr, this, nullptr);
+    Plattform_Zuruecksetzen();
+    // The child windows tell of their end, and must find nobody who listens.
+    Flaeche->disconnect(this);
+    for (Kindfenster* k : Kinder)
+        if (k != nullptr)
+            k->disconnect(this);
+    delete takeCentralWidget();
+}
+
+void MDI::Kinder_Bauen()
+{
+    auto* Mitte = new QWidget(this);
+    auto* Reihe = new QVBoxLayout(Mitte);
+    Reihe->setContentsMargins(0, 0, 0, 0);
+    Reihe->setSpacing(0);
+    Fremd   = new Fremd_Hinweis(Mitte);
+    Flaeche = new QMdiArea(Mitte);
+    Flaeche->setObjectName(QStringLiteral("Flaeche"));
+    Flaeche->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+    Flaeche->setBackground(palette().brush(QPalette::Dark));
+    Reihe->addWidget(Fremd);
+    Reihe->addWidget(Flaeche, 1);
+    setCentralWidget(Mitte);
+
+    Edit  = new Quelltext_Feld;
+    Hex   = new Hexedit_Fenster;
+    Spr   = new Spr_Fenster;
+    Notiz = new Text_Feld;
+    Edit->setObjectName(QStringLiteral("Text"));
+    Notiz->setObjectName(QStringLiteral("Notiz_Text"));
+    Notiz->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    Edit->setAccessibleName(QStringLiteral("MC-Editor"));
+    const auto Einsetzen = [this](int Nummer, const char* Name, QWidget* Inhalt, bool Hauptsache) {
+        auto* Neues = new Kindfenster(Nummer, QString::fromLatin1(Name), Inhalt, Hauptsache);
+        Flaeche->addSubWindow(Neues, Neues->windowFlags());
+        Neues->hide();
+        Kinder[static_cast<std::size_t>(Nummer)] = Neues;
+    };
+    Einsetzen(Fenster_Hexedit, "Hexedit", Hex, true);
+    Einsetzen(Fenster_Edit, "Edit", Edit, true);
+    Einsetzen(Fenster_Spr, "Spr", Spr, false);
+    Einsetzen(Fenster_Notiz, "Notiz", Notiz, false);
+}
+
+void MDI::Welt_Einsetzen()
+{
+    Box.Bei_Hinweis        = [this](std::string_view Text) { Zeile->Hinweisen(Text); };
+    Ereignisse.Nachziehen  = [this] { Nachziehen(); };
+    Ereignisse.Bei_Sperren = [this](bool Gesperrt) {
+        menuBar()->setEnabled(!Gesperrt);
+        for (QToolBar* Leiste : findChildren<QToolBar*>())
+            Leiste->setEnabled(!Gesperrt);
+        centralWidget()->setEnabled(!Gesperrt);
+    };
+    Ereignisse.Bei_Titel = [this](int Nummer, std::string_view Text) {
+        if (Kindfenster* k = Kind(Nummer))
+            k->setWindowTitle(Qt_Text(Text));
+    };
+    Plattform.Box        = &Box;
+    Plattform.Status     = &Status;
+    Plattform.Ereignisse = &Ereignisse;
+    Plattform.Edit       = Edit;
+    Plattform.Notiz      = Notiz;
+    Plattform.Fenster    = this;
+    Plattform.Dialog     = &Dialoge_Qt;
+    Plattform.Ablage     = &Ablage;
+    Plattform.Umgebung   = &Schale_Qt;
+}
+
+void MDI::Kinder_Verbinden()
+{
+    for (Kindfenster* k : Kinder)
+        if (k != nullptr)
+            connect(k, &Kindfenster::Geschlossen, this, [](int Nummer) {
+                Fenster_Geschlossen(Nummer);
+            });
+    connect(Flaeche, &QMdiArea::subWindowActivated, this, &MDI::Kind_Aktiviert);
+    connect(Edit, &Quelltext_Feld::Kontextmenue, this, &MDI::Bearbeiten_Menue);
+    connect(
+        Edit, &Quelltext_Feld::Zoom_Geaendert, this, [](int Prozent) { varnholt::Zoom = Prozent; });
+    connect(Hex, &Hexedit_Fenster::Kontextmenue, this, &MDI::Bearbeiten_Menue);
+    connect(Spr, &Spr_Fenster::Eintrag_Gewaehlt, this, [this](int Nummer) {
+        Ausfuehren([Nummer] { Spr_Liste_Click(Nummer); });
+    });
+    connect(Notiz, &Text_Feld::Text_Geaendert, this, [] { Notiz_Change(); });
+    connect(Waechter, &Dateiwaechter::Datei_Fremd_Geaendert, this, &MDI::Fremde_Aenderung);
+    connect(Fremd, &Fremd_Hinweis::Behalten, this, [this] {
+        Waechter->Abgetan();
+        Fremd->hide();
+    });
+    connect(Fremd, &Fremd_Hinweis::Neu_Laden, this, [this] {
+        Fremd->hide();
+        Ausfuehren([] {
+            Dialog_Name = Datei_Name;
+            Datei_Laden();
+        });
+    });
+}
+
+// --- commands and state ---
+
+void MDI::Ausfuehren(const std::function<void()>& Befehl)
+{
+    if (Befehl_Laeuft || Beendet)
+        return;
+    {
+        const QScopedValueRollback Laeuft(Befehl_Laeuft, true);
+        Befehl();
+    }
+    Nachziehen();
+}
+
+void MDI::Nachziehen()
+{
+    if (Beendet)
+        return;
+    Leisten->Nachziehen();
+    Hex->Nachziehen();
+    Spr->Nachziehen();
+    const QTextCursor c = Edit->textCursor();
+    Zeile->Nachziehen(c.blockNumber() + 1, c.positionInBlock() + 1);
+    Waechter->Nachziehen();
+}
+
+void MDI::Kind_Aktiviert(QMdiSubWindow* Neues)
+{
+    const auto* k = dynamic_cast<Kindfenster*>(Neues);
+    if (k == nullptr || k->Nummer() == Aktives_Kind)
+        return; // the main window lost the focus, or has it again
+    switch (Aktives_Kind) {
+    case Fenster_Hexedit:
+        Hexedit_Deactivate();
+        break;
+    case Fenster_Edit:
+        Edit_Deactivate();
+        break;
+    case 0:
+        break;
+    default:
+        Fenster_Merken(Aktives_Kind);
+    }
+    Aktives_Kind = k->Nummer();
+    switch (Aktives_Kind) {
+    case Fenster_Hexedit:
+        return Hexedit_Activate();
+    case Fenster_Edit:
+        return Edit_Activate();
+    default:
+        Aktives_Fenster = Aktives_Kind;
+    }
+}
+
+void MDI::Bearbeiten_Menue(const QPoint& Ort)
+{
+    Nachziehen();
+    Leisten->Menue_Von("MNU_Bearbeiten")->popup(Ort);
+}
+
+// --- files that come from outside ---
+
+// A file dropped on the window is opened as a recent one is: with the question, and without a
+// dialog.
+void MDI::Datei_Oeffnen(const QString& Name)
+{
+    Ausfuehren([Pfad = Nach_Std(Name)] { Datei_Vorgegeben_Laden(Pfad); });
+}
+
+void MDI::Fremde_Aenderung(const QString& Name) { Fremd->Zeigen(Name); }
+
+void MDI::dragEnterEvent(QDragEnterEvent* Ereignis)
+{
+    const QList<QUrl> Orte = Ereignis->mimeData()->urls();
+    if (!Befehl_Laeuft && Orte.size() == 1 && Orte.first().isLocalFile())
+        Ereignis->acceptProposedAction();
+}
+
+void MDI::dropEvent(QDropEvent* Ereignis)
+{
+    Ereignis->acceptProposedAction();
+    Datei_Oeffnen(Ereignis->mimeData()->urls().constFirst().toLocalFile());
+}
+
+// --- the end ---
+
+void MDI::closeEvent(QCloseEvent* Ereignis)
+{
+    Ereignis->ignore(); // the end is the logic's: it leaves through Programm_Beenden
+    Ausfuehren([] { MNU_Ende_Click(); });
+}
+
+void MDI::changeEvent(QEvent* Ereignis)
+{
+    QMainWindow::changeEvent(Ereignis);
+    if (Ereignis->type() != QEvent::PaletteChange || Leisten == nullptr)
+        return;
+    Flaeche->setBackground(palette().brush(QPalette::Dark));
+    Leisten->Bilder_Laden();
+}
+
+} // namespace varnholt

@@ -1,0 +1,108 @@
+// The main window: menus, tool bar, status line and the child windows. It is what the logic sees as
+// the windows behind the wall.
+#pragma once
+
+#include "core/platform.h"
+#include "ui/Qt_Welt.h"
+#include "ui/Status_Dialog.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <functional>
+#include <memory>
+
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace varnholt {
+
+class Dateiwaechter;
+class Fremd_Hinweis;
+class Hexedit_Fenster;
+class Kindfenster;
+class Menueleiste;
+class Quelltext_Feld;
+class Spr_Fenster;
+class Statuszeile;
+class Text_Feld;
+
+class MDI : public QMainWindow, public Fensterwelt {
+    Q_OBJECT
+
+public:
+    MDI(); // puts itself and the desktop behind the wall
+    ~MDI() override;
+
+    // --- the wall ---
+    bool   Sichtbar(int Fenster) const override;
+    void   Sichtbar_Setzen(int Fenster, bool Sichtbar) override;
+    Lage_T Lage(int Fenster) const override;
+    void   Lage_Setzen(int Fenster, const Lage_T& Neue) override;
+    void   Fokus(int Fenster) override;
+    Lage_T Innenmass() const override;
+    void   Bildschirm_Fuellen() override;
+    void   Hauptfenster_Titel(std::string_view Text) override;
+    void   Hintergrund(std::int32_t Farbe) override;
+    void   Schrift_Setzen(int Fenster, const Schrift_T& Schrift) override;
+    void   Formular_Zeigen(Formular Welches) override;
+    void   Formular_Entladen(Formular Welches) override;
+    void   Start_Text(std::string_view Text) override;
+    void   Programm_Beenden() override;
+
+    // Runs a command of the logic; nothing while another one runs. Brings the windows to the state
+    // behind it.
+    void Ausfuehren(const std::function<void()>& Befehl);
+    void Nachziehen();
+
+    Quelltext_Feld*  Edit_Feld() const { return Edit; }
+    Hexedit_Fenster* Hexedit() const { return Hex; }
+    Kindfenster*     Kind(int Nummer) const;
+
+    // Whose seconds the logic sees; a test brings a clock of its own.
+    void Uhr_Stellen(std::function<double()> Uhr) { Ereignisse.Uhr = std::move(Uhr); }
+
+signals:
+    void Start_Gezeigt(); // the splash stands on the screen
+
+protected:
+    void closeEvent(QCloseEvent* Ereignis) override;
+    void changeEvent(QEvent* Ereignis) override;
+    void dragEnterEvent(QDragEnterEvent* Ereignis) override;
+    void dropEvent(QDropEvent* Ereignis) override;
+
+private:
+    void Welt_Einsetzen();
+    void Kinder_Bauen();
+    void Kinder_Verbinden();
+    void Kind_Aktiviert(QMdiSubWindow* Neues);
+    void Datei_Oeffnen(const QString& Name);
+    void Fremde_Aenderung(const QString& Name);
+    void Zeigen_Falls_Noetig();
+    void Bearbeiten_Menue(const QPoint& Ort);
+
+    Qt_Box        Box{};
+    Qt_Ereignisse Ereignisse{};
+    Qt_Dialoge    Dialoge_Qt{};
+    Qt_Ablage     Ablage{};
+    Qt_Schale     Schale_Qt{};
+    Status_Dialog Status;
+
+    QMdiArea*        Flaeche  = nullptr;
+    Menueleiste*     Leisten  = nullptr;
+    Statuszeile*     Zeile    = nullptr;
+    Dateiwaechter*   Waechter = nullptr;
+    Fremd_Hinweis*   Fremd    = nullptr; // the bar that tells of another program's change
+    Quelltext_Feld*  Edit     = nullptr;
+    Hexedit_Fenster* Hex      = nullptr;
+    Spr_Fenster*     Spr      = nullptr;
+    Text_Feld*       Notiz    = nullptr;
+
+    std::array<Kindfenster*, 11>            Kinder{};    // by window number; null: still to come
+    std::array<std::unique_ptr<QWidget>, 3> Formulare{}; // Start, Erststart, Abfrage_Modus
+    int                                     Aktives_Kind  = 0;
+    bool                                    Befehl_Laeuft = false;
+    bool                                    Beendet       = false;
+};
+
+} // namespace varnholt

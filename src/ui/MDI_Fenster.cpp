@@ -1,0 +1,175 @@
+// The main window as the logic sees it behind the wall: child windows by number, forms, look.
+#include "core/commands.h"
+#include "core/settings.h"
+#include "core/shared_state.h"
+#include "core/windows.h"
+#include "ui/Abfrage_Modus_Dialog.h"
+#include "ui/Erststart_Dialog.h"
+#include "ui/Hexedit_Fenster.h"
+#include "ui/Kindfenster.h"
+#include "ui/MDI.h"
+#include "ui/Optionen_Dialog.h"
+#include "ui/Qt_Text.h"
+#include "ui/Quelltext_Feld.h"
+#include "ui/Spr_Fenster.h"
+#include "ui/Start_Bild.h"
+
+#include <QApplication>
+#include <QMdiArea>
+#include <QScreen>
+
+namespace varnholt {
+
+Kindfenster* MDI::Kind(int Nummer) const
+{
+    const auto Platz = static_cast<std::size_t>(Nummer);
+    return Nummer >= 1 && Platz < Kinder.size() ? Kinder[Platz] : nullptr;
+}
+
+bool MDI::Sichtbar(int Nummer) const
+{
+    const Kindfenster* k = Kind(Nummer);
+    return k != nullptr && !k->isHidden();
+}
+
+void MDI::Sichtbar_Setzen(int Nummer, bool Zu_Sehen)
+{
+    Kindfenster* k = Kind(Nummer);
+    if (k == nullptr || k->isHidden() != Zu_Sehen)
+        return;
+    Zeigen_Falls_Noetig();
+    if (Zu_Sehen)
+        k->widget()->show();
+    k->setVisible(Zu_Sehen);
+}
+
+Lage_T MDI::Lage(int Nummer) const
+{
+    const Kindfenster* k = Kind(Nummer);
+    return k != nullptr ? k->Lage() : Lage_T{};
+}
+
+void MDI::Lage_Setzen(int Nummer, const Lage_T& Neue)
+{
+    Zeigen_Falls_Noetig();
+    if (Kindfenster* k = Kind(Nummer))
+        k->Lage_Setzen(Neue, Flaeche->viewport()->size());
+}
+
+void MDI::Fokus(int Nummer)
+{
+    Kindfenster* k = Kind(Nummer);
+    if (k == nullptr)
+        return;
+    Flaeche->setActiveSubWindow(k);
+    k->widget()->setFocus(Qt::OtherFocusReason);
+}
+
+// The main window comes up, behind the splash, when something is to be put into it.
+void MDI::Zeigen_Falls_Noetig()
+{
+    if (isVisible())
+        return;
+    if (const QScreen* s = screen())
+        setGeometry(s->availableGeometry().adjusted(40, 40, -40, -40));
+    showMaximized();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (Formulare[0])
+        Formulare[0]->raise();
+}
+
+Lage_T MDI::Innenmass() const
+{
+    const_cast<MDI*>(this)->Zeigen_Falls_Noetig();
+    const QSize s = Flaeche->viewport()->size();
+    return {0, 0, s.height(), s.width()};
+}
+
+void MDI::Bildschirm_Fuellen()
+{
+    Zeigen_Falls_Noetig();
+    showMaximized();
+}
+
+void MDI::Hauptfenster_Titel(std::string_view Text) { setWindowTitle(Qt_Text(Text)); }
+
+void MDI::Hintergrund(std::int32_t Farbe)
+{
+    Edit->Hintergrund_Setzen(Farbe);
+    Notiz->Hintergrund_Setzen(Farbe);
+    QPalette p = QApplication::palette(Spr);
+    if (Farbe != 0xFFFFFF) {
+        p.setColor(QPalette::Base, Edit->palette().color(QPalette::Base));
+        p.setColor(QPalette::Text, Edit->palette().color(QPalette::Text));
+    }
+    Spr->setPalette(p);
+}
+
+void MDI::Schrift_Setzen(int Nummer, const Schrift_T& Schrift)
+{
+    switch (Nummer) {
+    case Fenster_Edit:
+        Edit->Grund_Schrift_Setzen(Qt_Schrift(Schrift, Edit->Grund_Schrift()));
+        return Edit->Zoom_Setzen(varnholt::Zoom);
+    case Fenster_Spr:
+        return Spr->setFont(Qt_Schrift(Schrift, Spr->font()));
+    case Fenster_Notiz:
+        return Notiz->setFont(Qt_Schrift(Schrift, Notiz->font()));
+    default:
+        return;
+    }
+}
+
+// --- forms ---
+
+void MDI::Formular_Zeigen(Formular Welches)
+{
+    if (Welches == Formular::Optionen) {
+        Optionen_Dialog Dialog(this);
+        Dialog.exec();
+        return;
+    }
+    auto&      Form = Formulare[static_cast<std::size_t>(Welches)];
+    const auto Weg  = [this](const std::function<void()>& Befehl) { Ausfuehren(Befehl); };
+    switch (Welches) {
+    case Formular::Start:
+        Form = std::make_unique<Start_Bild>();
+        break;
+    case Formular::Erststart:
+        Form = std::make_unique<Erststart_Dialog>(Weg);
+        break;
+    default:
+        Form = std::make_unique<Abfrage_Modus_Dialog>(Weg);
+    }
+    Form->show();
+    Form->raise();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (Welches == Formular::Start)
+        emit Start_Gezeigt();
+}
+
+void MDI::Formular_Entladen(Formular Welches)
+{
+    if (Welches == Formular::Optionen)
+        return;
+    auto& Form = Formulare[static_cast<std::size_t>(Welches)];
+    if (Form) {
+        Form->hide();
+        Form.release()->deleteLater(); // it may be one of its own handlers that asks for this
+    }
+}
+
+void MDI::Start_Text(std::string_view Text)
+{
+    if (auto* Bild_Fenster = dynamic_cast<Start_Bild*>(Formulare[0].get()))
+        Bild_Fenster->Text_Setzen(Text);
+}
+
+void MDI::Programm_Beenden()
+{
+    Beendet = true;
+    hide();
+    QApplication::exit(0);
+}
+
+} // namespace varnholt

@@ -1,0 +1,158 @@
+// The menus and the tool bar of the main window.
+#include "ui/Menueleiste.h"
+
+#include "ui/Bilder.h"
+#include "ui/Qt_Text.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+namespace varnholt {
+namespace {
+
+constexpr std::array Bild_Namen = {
+    std::pair{"MNU_MC", "mc-editor"},
+    std::pair{"MNU_Hex", "hex-editor"},
+    std::pair{"MNU_Spr", "sprungmarken"},
+    std::pair{"MNU_Not", "notizen"},
+    std::pair{"MNU_Optionen", "optionen"},
+    std::pair{"MNU_IC_Typ", "chip"},
+};
+
+// A caption as a menu shows it: an ampersand would underline the letter behind it.
+QString Menue_Text(const std::string& Titel)
+{
+    return Qt_Text(Titel).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace
+
+Menueleiste::Menueleiste(QMainWindow* Fenster, Ausfuehrer_T Ausfuehrer)
+    : QObject(Fenster), Besitzer(Fenster), Ausfuehren(std::move(Ausfuehrer))
+{
+    Menues_Bauen();
+    Leiste_Bauen();
+    Bilder_Laden();
+    for (std::size_t i = 0; i < Menue_Anzahl; ++i)
+        Eintrag_Zeigen(i);
+    for (const Werkzeug_Eintrag_T& w : Werkzeug_Tabelle)
+        Knopf_Zeigen(w.Position);
+}
+
+void Menueleiste::Menues_Bauen()
+{
+    for (std::size_t i = 0; i < Menue_Anzahl; ++i) {
+        const Menue_Eintrag_T& e          = Menue_Tabelle[i];
+        const bool             Hat_Kinder = std::any_of(Menue_Tabelle.begin(),
+                                            Menue_Tabelle.end(),
+                                            [&](const auto& k) { return k.Eltern == e.Name; });
+        auto*                  Aktion     = new QAction(Besitzer);
+        Aktion->setObjectName(Qt_Text(e.Name));
+        Aktion->setSeparator(e.Trennlinie());
+        Aktion->setMenuRole(QAction::NoRole);
+        if (Hat_Kinder) {
+            Untermenues[i] = new QMenu(Besitzer);
+            Untermenues[i]->setObjectName(Qt_Text(e.Name) + QStringLiteral("_Menue"));
+            Aktion->setMenu(Untermenues[i]);
+        } else if (!e.Trennlinie()) {
+            Aktion->setShortcut(
+                QKeySequence::fromString(Qt_Text(e.Kuerzel), QKeySequence::PortableText));
+            connect(Aktion, &QAction::triggered, this, [this, i] {
+                Ausfuehren([i] { Menue_Ausfuehren(i); });
+                Eintrag_Zeigen(i); // Qt has toggled the tick by itself
+            });
+        }
+        Eintraege[i] = Aktion;
+        if (e.Eltern.empty())
+            Besitzer->menuBar()->addAction(Aktion);
+        else
+            Untermenues[Menue_Platz(e.Eltern)]->addAction(Aktion);
+    }
+}
+
+void Menueleiste::Leiste_Bauen()
+{
+    Leiste = Besitzer->addToolBar(QStringLiteral("Toolbar"));
+    Leiste->setObjectName(QStringLiteral("Toolbar"));
+    Leiste->setMovable(false);
+    Leiste->setContextMenuPolicy(Qt::PreventContextMenu);
+    Leiste->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    int Vorige = 1;
+    for (const Werkzeug_Eintrag_T& w : Werkzeug_Tabelle) {
+        if (w.Position > Vorige + 1)
+            Leiste->addSeparator();
+        Vorige       = w.Position;
+        auto* Aktion = new QAction(Besitzer);
+        Aktion->setObjectName(QStringLiteral("Toolbar_") + Qt_Text(w.Schluessel));
+        connect(Aktion, &QAction::triggered, this, [this, s = w.Schluessel] {
+            Ausfuehren([s] { Werkzeug_Ausfuehren(s); });
+        });
+        Leiste->addAction(Aktion);
+        Knoepfe[static_cast<std::size_t>(w.Position)] = Aktion;
+    }
+}
+
+void Menueleiste::Bilder_Laden()
+{
+    const QPalette p = Besitzer->palette();
+    for (const Werkzeug_Eintrag_T& w : Werkzeug_Tabelle) {
+        const QIcon Symbol = Symbol_Bild(Qt_Text(w.Schluessel), p);
+        Knoepfe[static_cast<std::size_t>(w.Position)]->setIcon(Symbol);
+        if (!w.Menue.empty())
+            Eintrag(w.Menue)->setIcon(Symbol);
+    }
+    for (const auto& [Name, Datei] : Bild_Namen)
+        Eintrag(Name)->setIcon(Symbol_Bild(QString::fromLatin1(Datei), p));
+}
+
+void Menueleiste::Eintrag_Zeigen(std::size_t Platz)
+{
+    const Menue_Zustand_T& z  = Menues.Eintraege[Platz];
+    QAction*               a  = Eintraege[Platz];
+    Gezeigte_Eintraege[Platz] = {z, Menue_Bereit(Platz)};
+    if (!a->isSeparator())
+        a->setText(Menue_Text(z.Titel));
+    a->setVisible(z.Sichtbar);
+    a->setEnabled(Menue_Bereit(Platz) || a->isSeparator());
+    a->setCheckable(z.Haken);
+    a->setChecked(z.Haken);
+}
+
+void Menueleiste::Knopf_Zeigen(int Position)
+{
+    const Werkzeug_Zustand_T Soll{Werkzeug(Position).Hinweis, Werkzeug_Bereit(Position)};
+    QAction*                 a = Knoepfe[static_cast<std::size_t>(Position)];
+    Gezeigte_Knoepfe[static_cast<std::size_t>(Position)] = Soll;
+    a->setText(Menue_Text(Soll.Hinweis));
+    a->setToolTip(Qt_Text(Soll.Hinweis));
+    a->setEnabled(Soll.Aktiv);
+}
+
+void Menueleiste::Nachziehen()
+{
+    for (std::size_t i = 0; i < Menue_Anzahl; ++i)
+        if (Gezeigte_Eintraege[i] != Gezeigt_T{Menues.Eintraege[i], Menue_Bereit(i)})
+            Eintrag_Zeigen(i);
+    for (const Werkzeug_Eintrag_T& w : Werkzeug_Tabelle) {
+        const Werkzeug_Zustand_T Soll{Werkzeug(w.Position).Hinweis, Werkzeug_Bereit(w.Position)};
+        if (Gezeigte_Knoepfe[static_cast<std::size_t>(w.Position)] != Soll)
+            Knopf_Zeigen(w.Position);
+    }
+}
+
+QMenu* Menueleiste::Menue_Von(std::string_view Name) const
+{
+    const std::size_t Platz = Menue_Platz(Name);
+    return Platz < Menue_Anzahl ? Untermenues[Platz] : nullptr;
+}
+
+QAction* Menueleiste::Eintrag(std::string_view Name) const
+{
+    const std::size_t Platz = Menue_Platz(Name);
+    return Platz < Menue_Anzahl ? Eintraege[Platz] : nullptr;
+}
+
+} // namespace varnholt

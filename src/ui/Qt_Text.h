@@ -1,0 +1,40 @@
+// Texts at the border between the logic and Qt: UTF-8 and Windows-1252 to QString and back, the
+// colours of the field, and key translation helpers stay out of here.
+#pragma once
+
+#include "core/platform.h"
+
+#include <QColor>
+#include <QFont>
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace varnholt {
+
+inline QString Qt_Text(std::string_view UTF8)
+{
+    return QString::fromUtf8(UTF8.data(), static_cast<qsizetype>(UTF8.size()));
+}
+inline std::string Nach_Std(const QString& Text) { return Text.toStdString(); }
+
+// A message text: CR LF become line feeds.
+QString Meldungs_Text(std::string_view UTF8);
+
+// One byte of Windows-1252 as a UTF-16 unit, and back; a unit outside the code page becomes `?`.
+// One to one, so that positions stay.
+char16_t    Zeichen_Aus_1252(char Zeichen);
+char        Zeichen_Nach_1252(char16_t Zeichen);
+QString     Qt_Aus_1252(std::string_view Text);
+std::string Nach_1252(QStringView Text);
+
+// Blue byte first, as the logic writes colours: 0xDD1111 is a blue.
+QColor       Qt_Farbe(std::int32_t Farbe);
+std::int32_t Farbe_Aus(const QColor& Farbe);
+
+// A font; what is not set stays as in Grund.
+QFont     Qt_Schrift(const Schrift_T& Schrift, const QFont& Grund);
+Schrift_T Schrift_Aus(const QFont& Schrift);
+
+} // namespace varnholt

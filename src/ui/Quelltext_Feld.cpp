@@ -1,0 +1,265 @@
+// The text control of `Edit`.
+#include "ui/Quelltext_Feld.h"
+
+#include "editors/Quelltext.h"
+#include "ui/Qt_Text.h"
+#include "ui/Tasten.h"
+
+#include <QFontDatabase>
+#include <QMimeData>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace varnholt {
+namespace {
+
+class Nummern_Rand : public QWidget {
+public:
+    explicit Nummern_Rand(Quelltext_Feld* Besitzer) : QWidget(Besitzer), Feld(Besitzer)
+    {
+        setObjectName(QStringLiteral("Zeilennummern"));
+    }
+    QSize sizeHint() const override { return {Feld->Nummern_Breite(), 0}; }
+
+protected:
+    void paintEvent(QPaintEvent* Ereignis) override { Feld->Nummern_Zeichnen(Ereignis); }
+
+private:
+    Quelltext_Feld* Feld;
+};
+
+// Of the editing keys the control takes these; the others are shortcuts of the menu, which leads
+// to the same routines.
+bool Eigene_Taste(const QKeyEvent& Taste, bool Auswahl)
+{
+    const bool Strg = Taste.modifiers() == Qt::ControlModifier;
+    switch (Taste.key()) {
+    case Qt::Key_V:
+    case Qt::Key_X:
+    case Qt::Key_Z:
+    case Qt::Key_A:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        return Strg;
+    case Qt::Key_Delete:
+        return Strg || Auswahl || Taste.modifiers() == Qt::NoModifier;
+    default:
+        return false;
+    }
+}
+
+QColor Gemischt(const QColor& a, const QColor& b, double Anteil_B)
+{
+    const double A = 1 - Anteil_B;
+    return QColor::fromRgbF(static_cast<float>(A * a.redF() + Anteil_B * b.redF()),
+                            static_cast<float>(A * a.greenF() + Anteil_B * b.greenF()),
+                            static_cast<float>(A * a.blueF() + Anteil_B * b.blueF()));
+}
+
+} // namespace
+
+Quelltext_Feld::Quelltext_Feld(QWidget* Eltern)
+    : Text_Feld(Eltern), Nummern(new Nummern_Rand(this)),
+      Grund(QFontDatabase::systemFont(QFontDatabase::FixedFont))
+{
+    Grund.setPointSizeF(std::max(Grund.pointSizeF(), 11.0));
+    setCursorWidth(2);
+    Zoom_Setzen(100);
+    connect(this, &QPlainTextEdit::blockCountChanged, this, &Quelltext_Feld::Rand_Setzen);
+    connect(this, &QPlainTextEdit::updateRequest, this, [this](const QRect& r, int dy) {
+        if (dy != 0)
+            Nummern->scroll(0, dy);
+        else
+            Nummern->update(0, r.y(), Nummern->width(), r.height());
+    });
+    connect(
+        this, &QPlainTextEdit::cursorPositionChanged, this, &Quelltext_Feld::Aktuelle_Zeile_Zeigen);
+    connect(
+        this, &QPlainTextEdit::cursorPositionChanged, this, &Quelltext_Feld::Bewegung_Vormerken);
+    connect(this, &QPlainTextEdit::selectionChanged, this, &Quelltext_Feld::Bewegung_Vormerken);
+    connect(this, &Text_Feld::Text_Geaendert, this, [] { Text_Change(); });
+    Aktuelle_Zeile_Zeigen();
+}
+
+// --- events to the logic ---
+
+// The logic hears of a move when the event that made it is over: it may show a box or change the
+// text, which must not happen in the middle of Qt's own handling.
+void Quelltext_Feld::Bewegung_Vormerken()
+{
+    if (!Bewegt)
+        QTimer::singleShot(0, this, &Quelltext_Feld::Bewegung_Melden);
+    Bewegt = true;
+}
+
+void Quelltext_Feld::Bewegung_Melden()
+{
+    if (!Bewegt || Maus_Unten)
+        return;
+    Bewegt = false;
+    Text_SelChange();
+}
+
+bool Quelltext_Feld::event(QEvent* Ereignis)
+{
+    if (Ereignis->type() == QEvent::ShortcutOverride) {
+        auto*      Taste   = static_cast<QKeyEvent*>(Ereignis);
+        const bool Zeichen = (Taste->modifiers() & ~Qt::ShiftModifier) == Qt::NoModifier &&
+                             (Taste->key() < Qt::Key_F1 || Taste->key() > Qt::Key_F35);
+        Ereignis->setAccepted(Eigene_Taste(*Taste, textCursor().hasSelection()) ||
+                              (Zeichen && Taste->key() != Qt::Key_Delete));
+        return true;
+    }
+    return Text_Feld::event(Ereignis);
+}
+
+void Quelltext_Feld::keyPressEvent(QKeyEvent* Ereignis)
+{
+    const Taste_T Taste = Taste_Aus(*Ereignis);
+    const bool    Enter = Taste.Code == Taste_Enter && !Taste.Strg;
+    if (Text_KeyDown(Taste) || (Enter && Text_KeyPress_Enter()))
+        Ereignis->accept();
+    else
+        Text_Feld::keyPressEvent(Ereignis);
+    Bewegung_Melden();
+}
+
+void Quelltext_Feld::inputMethodEvent(QInputMethodEvent* Ereignis)
+{
+    Text_Feld::inputMethodEvent(Ereignis);
+    Bewegung_Melden();
+}
+
+void Quelltext_Feld::mousePressEvent(QMouseEvent* Ereignis)
+{
+    Maus_Unten = true;
+    Text_Feld::mousePressEvent(Ereignis);
+}
+
+void Quelltext_Feld::mouseReleaseEvent(QMouseEvent* Ereignis)
+{
+    Text_Feld::mouseReleaseEvent(Ereignis);
+    Maus_Unten = false;
+    Bewegung_Melden();
+}
+
+void Quelltext_Feld::contextMenuEvent(QContextMenuEvent* Ereignis)
+{
+    Maus_Unten = false;
+    emit Kontextmenue(Ereignis->globalPos());
+}
+
+// Text that is dropped or comes by the middle button: its lines get their colours at once.
+void Quelltext_Feld::insertFromMimeData(const QMimeData* Daten)
+{
+    if (isReadOnly() || !Daten->hasText())
+        return;
+    const std::int64_t Erste = Zeile_Von(Auswahl().Anfang);
+    textCursor().insertText(Daten->text(), {});
+    Zeilen_Einfaerben(Erste, Zeile_Von(Auswahl().Anfang));
+}
+
+// --- zoom ---
+
+void Quelltext_Feld::Grund_Schrift_Setzen(const QFont& Schrift)
+{
+    Grund = Schrift;
+    Zoom_Setzen(Prozent_Jetzt);
+}
+
+void Quelltext_Feld::Zoom_Setzen(int Prozent)
+{
+    const int  Neu    = std::clamp(Prozent, Zoom_Kleinster, Zoom_Groesster);
+    const bool Anders = Neu != Prozent_Jetzt;
+    Prozent_Jetzt     = Neu;
+    QFont Schrift     = Grund;
+    Schrift.setPointSizeF(std::max(Grund.pointSizeF(), 1.0) * Neu / 100.0);
+    setFont(Schrift);
+    setTabStopDistance(8 * QFontMetricsF(Schrift).horizontalAdvance(u' '));
+    Rand_Setzen();
+    if (Anders)
+        emit Zoom_Geaendert(Neu);
+}
+
+void Quelltext_Feld::wheelEvent(QWheelEvent* Ereignis)
+{
+    if (Ereignis->modifiers() != Qt::ControlModifier)
+        return Text_Feld::wheelEvent(Ereignis);
+    const int Schritt = Ereignis->angleDelta().y() > 0 ? 10 : -10;
+    if (Ereignis->angleDelta().y() != 0)
+        Zoom_Setzen(Prozent_Jetzt + Schritt);
+    Ereignis->accept();
+}
+
+// --- look ---
+
+void Quelltext_Feld::changeEvent(QEvent* Ereignis)
+{
+    Text_Feld::changeEvent(Ereignis);
+    if (Ereignis->type() == QEvent::PaletteChange)
+        Aktuelle_Zeile_Zeigen();
+}
+
+void Quelltext_Feld::Aktuelle_Zeile_Zeigen()
+{
+    QTextEdit::ExtraSelection Zeile;
+    const QPalette            p = palette();
+    Zeile.format.setBackground(
+        Gemischt(p.color(QPalette::Base), p.color(QPalette::Highlight), 0.10));
+    Zeile.format.setProperty(QTextFormat::FullWidthSelection, true);
+    Zeile.cursor = textCursor();
+    Zeile.cursor.clearSelection();
+    setExtraSelections({Zeile});
+    if (Nummern != nullptr)
+        Nummern->update();
+}
+
+int Quelltext_Feld::Nummern_Breite() const
+{
+    const int Stellen = std::max<int>(3, static_cast<int>(QString::number(blockCount()).size()));
+    const QFontMetrics Mass(font());
+    return Mass.horizontalAdvance(u'9') * (Stellen + 1) + Mass.horizontalAdvance(u' ');
+}
+
+void Quelltext_Feld::Rand_Setzen()
+{
+    setViewportMargins(Nummern_Breite(), 0, 0, 0);
+    const QRect r = contentsRect();
+    Nummern->setGeometry(r.left(), r.top(), Nummern_Breite(), r.height());
+}
+
+void Quelltext_Feld::resizeEvent(QResizeEvent* Ereignis)
+{
+    Text_Feld::resizeEvent(Ereignis);
+    Rand_Setzen();
+}
+
+void Quelltext_Feld::Nummern_Zeichnen(QPaintEvent* Ereignis)
+{
+    const QPalette p = palette();
+    QPainter       Stift(Nummern);
+    Stift.fillRect(Ereignis->rect(),
+                   Gemischt(p.color(QPalette::Base), p.color(QPalette::Text), 0.05));
+    const QColor Matt   = Gemischt(p.color(QPalette::Base), p.color(QPalette::Text), 0.5);
+    const int    Rechts = Nummern->width() - fontMetrics().horizontalAdvance(u'9');
+    Stift.setFont(font());
+    QTextBlock Zeile = firstVisibleBlock();
+    double     Oben  = blockBoundingGeometry(Zeile).translated(contentOffset()).top();
+    while (Zeile.isValid() && Oben <= Ereignis->rect().bottom()) {
+        const double Hoehe = blockBoundingRect(Zeile).height();
+        Stift.setPen(Zeile == textCursor().block() ? p.color(QPalette::Text) : Matt);
+        Stift.drawText(QRectF(0, Oben, Rechts, Hoehe),
+                       Qt::AlignRight | Qt::AlignVCenter,
+                       QString::number(Zeile.blockNumber() + 1));
+        Oben += Hoehe;
+        Zeile = Zeile.next();
+    }
+}
+
+} // namespace varnholt
