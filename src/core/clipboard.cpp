@@ -46,7 +46,8 @@ void Schritt_Abschliessen(const Textfeld* Feld)
     if (Feld != Plattform.Edit)
         return;
     Undo_Schritt_speichern();
-    Undo_Oben = Undo_Index;
+    Undo_Oben  = Undo_Index;
+    Undo_Taste = true; // as a key does: Undo keeps what the command is about to make
 }
 
 bool Hat_Marke(std::string_view Text) { return Text.find(':') != std::string_view::npos; }

@@ -95,7 +95,12 @@ void Instanz_Anmelden()
 
 bool Marke_Beanspruchen()
 {
-    if (!Instanz.Marke_Gehoert)
+    if (Instanz.Marke_Gehoert)
+        return true;
+    // What a run that ended meanwhile left behind is for the next start to ask about.
+    std::error_code Fehler;
+    const bool      Spaet = Instanz.Ordner_Sperre.Gehalten();
+    if (!Spaet || !fs::exists(Im_Programm_Pfad("startup"), Fehler))
         Instanz.Marke_Gehoert = Instanz.Marken_Sperre.Nehmen(Im_Programm_Pfad(Sperr_Datei)) !=
                                 Datei_Sperre::Ergebnis::Vergeben;
     return Instanz.Marke_Gehoert;

@@ -60,25 +60,23 @@ constexpr auto Befehle = [] {
     return Nach_Platz;
 }();
 
-bool Hat_Kinder(std::size_t Platz)
-{
-    return std::any_of(
-        Menue_Tabelle.begin(), Menue_Tabelle.end(), [&](const Menue_Eintrag_T& Eintrag) {
-            return Eintrag.Eltern == Menue_Tabelle[Platz].Name;
-        });
-}
+// Whether an entry opens a menu. Asked for each entry whenever the windows follow the state.
+constexpr auto Hat_Kinder = [] {
+    std::array<bool, Menue_Anzahl> Nach_Platz{};
+    for (const Menue_Eintrag_T& e : Menue_Tabelle)
+        if (!e.Eltern.empty())
+            Nach_Platz[Menue_Platz(e.Eltern)] = true;
+    return Nach_Platz;
+}();
 
-template <class Bedingung> const Werkzeug_Eintrag_T* Werkzeug_Suchen(Bedingung Passt)
-{
-    const auto* p = std::find_if(Werkzeug_Tabelle.begin(), Werkzeug_Tabelle.end(), Passt);
-    return p == Werkzeug_Tabelle.end() ? nullptr : p;
-}
-
-// The command of a button, null when it is still to come.
-Befehl_T Befehl_Von(const Werkzeug_Eintrag_T& Knopf)
-{
-    return Knopf.Menue.empty() ? Ansicht_umschalten : Befehle[Menue_Platz(Knopf.Menue)];
-}
+// The command of each button by its position; null when it is still to come.
+constexpr auto Knopf_Befehle = [] {
+    std::array<Befehl_T, Werkzeug_Plaetze + 1> Nach_Position{};
+    for (const Werkzeug_Eintrag_T& w : Werkzeug_Tabelle)
+        Nach_Position[static_cast<std::size_t>(w.Position)] =
+            w.Menue.empty() ? Ansicht_umschalten : Befehle[Menue_Platz(w.Menue)];
+    return Nach_Position;
+}();
 
 static_assert(std::all_of(Werkzeug_Tabelle.begin(),
                           Werkzeug_Tabelle.end(),
@@ -90,7 +88,7 @@ static_assert(std::all_of(Werkzeug_Tabelle.begin(),
 
 bool Menue_Hat_Befehl(std::size_t Platz)
 {
-    return Platz < Menue_Anzahl && (Befehle[Platz] != nullptr || Hat_Kinder(Platz));
+    return Platz < Menue_Anzahl && (Befehle[Platz] != nullptr || Hat_Kinder[Platz]);
 }
 
 bool Menue_Bereit(std::size_t Platz)
@@ -100,9 +98,8 @@ bool Menue_Bereit(std::size_t Platz)
 
 bool Werkzeug_Bereit(int Position)
 {
-    const auto* Knopf =
-        Werkzeug_Suchen([&](const Werkzeug_Eintrag_T& w) { return w.Position == Position; });
-    return Knopf != nullptr && Befehl_Von(*Knopf) != nullptr && Werkzeug(Position).Aktiv;
+    return Position >= 0 && Position <= Werkzeug_Plaetze &&
+           Knopf_Befehle[static_cast<std::size_t>(Position)] != nullptr && Werkzeug(Position).Aktiv;
 }
 
 void Menue_Ausfuehren(std::size_t Platz)
@@ -114,9 +111,11 @@ void Menue_Ausfuehren(std::size_t Platz)
 void Werkzeug_Ausfuehren(std::string_view Schluessel)
 {
     const auto* Knopf =
-        Werkzeug_Suchen([&](const Werkzeug_Eintrag_T& w) { return w.Schluessel == Schluessel; });
-    if (Knopf != nullptr && Werkzeug_Bereit(Knopf->Position))
-        Befehl_Von (*Knopf)();
+        std::find_if(Werkzeug_Tabelle.begin(),
+                     Werkzeug_Tabelle.end(),
+                     [&](const Werkzeug_Eintrag_T& w) { return w.Schluessel == Schluessel; });
+    if (Knopf != Werkzeug_Tabelle.end() && Werkzeug_Bereit(Knopf->Position))
+        Knopf_Befehle[static_cast<std::size_t>(Knopf->Position)]();
 }
 
 } // namespace varnholt

@@ -4,12 +4,7 @@
 #include "core/shared_state.h"
 
 namespace varnholt {
-std::string In_Sprache(const Text_Paar& Text)
-{
-    if (Sprache == "D")
-        return Text.D;
-    return Sprache == "E" ? Text.E : std::string{};
-}
+std::string In_Sprache(const Text_Paar& Text) { return Sprache == "D" ? Text.D : Text.E; }
 
 void Melden(const Text_Paar& Text, const Text_Paar& Titel, Knoepfe Tasten, Symbol Zeichen)
 {

@@ -14,7 +14,8 @@ struct Text_Paar {
     std::string E{};
 };
 
-// The text of the interface language; empty when `Sprache` is neither "D" nor "E".
+// The text of the interface language; the English one when `Sprache` is neither "D" nor "E" (from a
+// damaged settings file): captions and notices are better in English than empty.
 std::string In_Sprache(const Text_Paar& Text);
 
 // Shows a message box and keeps its result in `Antwort`. With a `Sprache` that is neither "D" nor

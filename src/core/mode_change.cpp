@@ -17,9 +17,9 @@
 namespace varnholt {
 namespace {
 
-void Hauptfenster_Zeigen(int Nummer, int Spalte, bool Gezeigt)
+void Hauptfenster_Zeigen(int Nummer, bool Gezeigt)
 {
-    Fenster_Wert(Spalte, Nummer, Feld::Sichtbar) = Gezeigt ? -1 : 0;
+    Fenster_Wert(Fenster_Spalte(Nummer, Modus), Nummer, Feld::Sichtbar) = Gezeigt ? -1 : 0;
     if (!Gezeigt || !Init_Laeuft)
         Plattform.Fenster->Sichtbar_Setzen(Nummer, Gezeigt);
 }
@@ -72,11 +72,15 @@ void In_Hex_Editor()
 
 void In_Modus_Wechseln(int Neuer)
 {
+    // The new window first: the one that it takes the focus from keeps its place, and that belongs
+    // to the old mode.
+    Hauptfenster_Zeigen(Neuer == Modus_Hex ? Fenster_Hexedit : Fenster_Edit, true);
     Modus = Neuer;
-    Hauptfenster_Zeigen(Fenster_Hexedit, 0, Neuer == Modus_Hex);
-    Hauptfenster_Zeigen(Fenster_Edit, 1, Neuer == Modus_MC);
+    Hauptfenster_Zeigen(Neuer == Modus_Hex ? Fenster_Edit : Fenster_Hexedit, false);
     Modus_Tabelle_Anwenden();
     Fenster_Anordnen();
+    if (!Init_Laeuft)
+        Plattform.Fenster->Fokus(Modus == Modus_Hex ? Fenster_Hexedit : Fenster_Edit);
 }
 
 void Ansicht_umschalten()

@@ -233,7 +233,7 @@ void Undo_Uebernehmen()
     if (Neu == Undo_Max)
         return;
     Undo_Max = Neu;
-    Undo_Zuruecksetzen();
+    Undo_Ring_Neu();
 }
 
 } // namespace

@@ -104,10 +104,13 @@ public:
     virtual void         Auswaehlen(std::int64_t Anfang, std::int64_t Laenge) = 0;
     virtual Textstelle_T Auswahl() const                                      = 0;
     virtual std::string  Auswahl_Text() const                                 = 0;
-    virtual void         Auswahl_Ersetzen(std::string_view Neuer)       = 0; // caret behind it
+    virtual void         Auswahl_Ersetzen(std::string_view Neuer) = 0; // caret behind it
     // The same in UTF-8; by way of Windows-1252 where the control knows no more.
-    virtual std::string Auswahl_Text_UTF8() const;
-    virtual void        Auswahl_Ersetzen_UTF8(std::string_view Neuer);
+    // Puts Neuer in the place of a piece, in the colour of its first character. The selection,
+    // which doesn't touch the piece, stays at its characters, and the view where it is.
+    virtual void         Ersetzen(Textstelle_T Stueck, std::string_view Neuer) = 0;
+    virtual std::string  Auswahl_Text_UTF8() const;
+    virtual void         Auswahl_Ersetzen_UTF8(std::string_view Neuer);
     virtual void         Auswahl_Faerben(std::int32_t Farbe)            = 0;
     virtual void         Faerben(std::span<const Farbstelle_T> Stellen) = 0; // ascending
     virtual std::int32_t Farbe_An(std::int64_t Stelle) const            = 0;

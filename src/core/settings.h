@@ -50,6 +50,8 @@ inline struct Optionen_T {
     // registers at Port_Basis; empty: not yet chosen.
     std::string Port_Art{};
     int         Zoom = 100; // of the source editor, per cent
+    // Place of the main window: "left top width height", or "max"; empty: not yet known.
+    std::string Hauptfenster{};
     // Further lines "Name=Wert" of the settings file that this version doesn't know; they are
     // written again.
     std::vector<std::string> Fremde_Zeilen{};
@@ -81,6 +83,7 @@ inline constinit auto& Autosave_Assemblieren = Optionen_Werte.Autosave_Assemblie
 inline constinit auto& Schriften             = Optionen_Werte.Schriften;
 inline constinit auto& Port_Art              = Optionen_Werte.Port_Art;
 inline constinit auto& Zoom                  = Optionen_Werte.Zoom;
+inline constinit auto& Hauptfenster          = Optionen_Werte.Hauptfenster;
 inline constinit auto& Fremde_Zeilen         = Optionen_Werte.Fremde_Zeilen;
 
 // Every option at its value of a first start.

@@ -291,6 +291,7 @@ struct Eigene_T {
 constexpr auto Eigene = std::to_array<Eigene_T>({
     {"Port_Art", Text_Wert{&o.Port_Art}},
     {"Zoom", Ganzzahl{&o.Zoom, Zoom_Mindestens, Zoom_Hoechstens}},
+    {"Hauptfenster", Text_Wert{&o.Hauptfenster}},
 });
 
 bool Wert_Lesen(const Wert_T& w, std::string_view Zeile, int Platz)

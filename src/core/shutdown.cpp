@@ -81,7 +81,8 @@ bool Ende_Erfragen()
     if (!Einstellungen_Erledigen())
         return false;
     Hex_Puffer = {};
-    Dateien_Aufraeumen();
+    if (Startlauf.Einstellungen_Gelten) // a start that was given up has nothing to clear away
+        Dateien_Aufraeumen();
     Plattform.Fenster->Formular_Entladen(Formular::Start);
     Datei_Geaendert = false;
     return true;

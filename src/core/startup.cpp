@@ -86,6 +86,7 @@ void Quelltext_Verknuepfen()
 
 void Sprache_Erfragen()
 {
+    Plattform.Ereignisse->Mauszeiger_Warten(false);
     Plattform.Fenster->Formular_Zeigen(Formular::Erststart);
     Modus = Modus_MC;
     Plattform.Fenster->Formular_Entladen(Formular::Start);
@@ -113,6 +114,7 @@ void Modus_Erfragen()
     Letzte_Datei[0] = Beispiel_Suchen();
     IC_Titel_Zeigen();
     Quelltext_Verknuepfen();
+    Plattform.Ereignisse->Mauszeiger_Warten(false);
     Plattform.Fenster->Formular_Zeigen(Formular::Abfrage_Modus);
 }
 
@@ -318,8 +320,10 @@ void Absturz_Pruefen()
     if (!Instanz.Marke_Gehoert || !fs::exists(Marke, Fehler) || !Autosave_Gewuenscht())
         return;
     const std::string Datei = Marke_Lesen(Marke);
-    if (Vorhanden(Datei))
-        Letzte_Datei[0] = Datei;
+    if (!Vorhanden(Datei))
+        return;
+    Letzte_Datei[0] = Datei;
+    Letzte_Dateien_Zeigen();
 }
 
 void Ordner_Pruefen()
@@ -339,6 +343,8 @@ void Erstes_Dokument()
         return MNU_Neu_Click();
     Dialog_Name = Letzte_Datei[0];
     Datei_Laden();
+    if (Datei_Fehler == Dateifehler::Lesefehler || Datei_Fehler == Dateifehler::Nicht_Gefunden)
+        MNU_Neu_Click(); // an image that nothing has filled isn't an erased one
     Plattform.Ereignisse->Mauszeiger_Warten(true);
 }
 

@@ -11,6 +11,9 @@ namespace {
 
 std::size_t Als_Index(std::int64_t n) { return static_cast<std::size_t>(n); }
 
+// Line ends have no colour: what is typed at the start of a line is ordinary text.
+bool Zeilen_Ende(char Zeichen) { return Zeichen == '\r' || Zeichen == '\n'; }
+
 } // namespace
 
 void Speicher_Text::Text_Setzen(std::string Neuer)
@@ -47,8 +50,24 @@ void Speicher_Text::Auswahl_Ersetzen(std::string_view Neuer)
     const std::int32_t Farbe  = Farbe_An(a.Laenge > 0 ? a.Anfang : a.Anfang - 1);
     const auto         Beginn = Zeichen_Farbe.begin() + a.Anfang;
     Inhalt.replace(Als_Index(a.Anfang), Als_Index(a.Laenge), Neuer);
-    Zeichen_Farbe.insert(Zeichen_Farbe.erase(Beginn, Beginn + a.Laenge), Neuer.size(), Farbe);
-    Auswaehlen(a.Anfang + static_cast<std::int64_t>(Neuer.size()), 0);
+    Zeichen_Farbe.insert(Zeichen_Farbe.erase(Beginn, Beginn + a.Laenge), Neuer.size(), 0);
+    const Farbstelle_T Eingesetzt{a.Anfang, static_cast<std::int64_t>(Neuer.size()), Farbe};
+    Faerben({&Eingesetzt, 1});
+    Auswaehlen(a.Anfang + Eingesetzt.Laenge, 0);
+}
+
+void Speicher_Text::Ersetzen(Textstelle_T Stueck, std::string_view Neuer)
+{
+    const Textstelle_T Alt      = Auswahl();
+    const Textstelle_T s        = Im_Text(Stueck);
+    const auto         Dazu     = static_cast<std::int64_t>(Neuer.size()) - s.Laenge;
+    const auto         Versetzt = [&](std::int64_t Ort) {
+        return Ort >= s.Anfang + s.Laenge ? Ort + Dazu : Ort;
+    };
+    Auswaehlen(s.Anfang, s.Laenge);
+    Auswahl_Ersetzen(Neuer);
+    const std::int64_t Anfang = Versetzt(Alt.Anfang);
+    Auswaehlen(Anfang, Versetzt(Alt.Anfang + Alt.Laenge) - Anfang);
 }
 
 void Speicher_Text::Auswahl_Faerben(std::int32_t Farbe)
@@ -63,7 +82,8 @@ void Speicher_Text::Faerben(std::span<const Farbstelle_T> Stellen)
     Farben_Angleichen();
     for (const Farbstelle_T& f : Stellen) {
         const Textstelle_T s = Im_Text({f.Anfang, f.Laenge});
-        std::fill_n(Zeichen_Farbe.begin() + s.Anfang, s.Laenge, f.Farbe);
+        for (std::int64_t i = s.Anfang; i < s.Anfang + s.Laenge; ++i)
+            Zeichen_Farbe[Als_Index(i)] = Zeilen_Ende(Inhalt[Als_Index(i)]) ? 0 : f.Farbe;
     }
 }
 

@@ -23,6 +23,7 @@ public:
     Textstelle_T              Auswahl() const override;
     std::string               Auswahl_Text() const override;
     void                      Auswahl_Ersetzen(std::string_view Neuer) override;
+    void                      Ersetzen(Textstelle_T Stueck, std::string_view Neuer) override;
     void                      Auswahl_Faerben(std::int32_t Farbe) override;
     void                      Faerben(std::span<const Farbstelle_T> Stellen) override;
     std::int32_t              Farbe_An(std::int64_t Stelle) const override;

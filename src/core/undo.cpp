@@ -9,6 +9,7 @@
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "core/undo_file.h"
+#include "core/windows.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -52,11 +53,21 @@ struct Zeichenpause {
     Zeichenpause& operator=(const Zeichenpause&) = delete;
 };
 
+void Ring_Leeren()
+{
+    Undo_Ende     = Hoechster_Platz();
+    Undo_Index    = 0;
+    Undo_Oben     = 1;
+    Undo_Begonnen = false;
+    Undo_Schalten(false);
+    Redo_Schalten(false);
+}
+
 // The option may have shrunk the ring: counters beyond its end are brought back into it.
 void Ring_Einpassen()
 {
     if (Undo_Index > Hoechster_Platz())
-        Undo_Zuruecksetzen();
+        Ring_Leeren();
     Undo_Ende = std::min(Undo_Ende, Hoechster_Platz());
 }
 
@@ -136,6 +147,9 @@ void Platz_Zeigen(int Platz)
     Plattform.Edit->Text_Setzen_UTF8(Aufnahme->Text);
     Plattform.Edit->Faerben(Aufnahme->Farben);
     Ansicht_Herstellen(Platz);
+    Datei_Geaendert = true; // another text than the one that was saved
+    Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor (*)" + Datei_Name);
+    Sprungmarken_Fuellen();
 }
 
 // The text on display becomes the newest step, so that Redo brings it back. False when it can't be
@@ -200,14 +214,11 @@ void Undo_Schritt_speichern()
 
 void Undo_Zuruecksetzen()
 {
-    Undo_Ende       = Hoechster_Platz();
-    Undo_Index      = 0;
-    Undo_Oben       = 1;
-    Undo_Begonnen   = false;
+    Ring_Leeren();
     Text_Veraendert = false;
-    Undo_Schalten(false);
-    Redo_Schalten(false);
 }
+
+void Undo_Ring_Neu() { Ring_Leeren(); }
 
 void MNU_Undo_Click()
 {

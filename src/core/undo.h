@@ -37,6 +37,8 @@ void Undo_Schritt_speichern();
 // The counters of a new document; MNU_Undo, MNU_Redo and buttons 14 and 15 off.
 // reads: Undo_Max   sets: the ring, Text_Veraendert, menu, tool bar
 void Undo_Zuruecksetzen();
+// The same for the document in work when the number of steps changes: a changed line stays one.
+void Undo_Ring_Neu();
 // Saves the text to the next file of the series and writes the crash marker.
 // reads: Edit, Programm_Pfad   sets: Autosave_Nummer, Autosave_Zeit
 void Autosave_Speichern();

@@ -144,7 +144,8 @@ void Hexedit_Loeschen()
 
 void Hexedit_Einfuegen()
 {
-    if (!Änderung_Erlaubt())
+    const std::string Text = Plattform.Ablage->Text();
+    if (Text.empty() || !Änderung_Erlaubt()) // a picture, say: nothing is to go for it
         return;
     const bool          Hex = Hex_Aktives_Feld == Feld_Hex;
     const Feldmass_T&   m   = Hex ? Hex_Mass : AscII_Mass;
@@ -152,7 +153,6 @@ void Hexedit_Einfuegen()
     const Bytefolge_T   b   = Bytes_Von(m, M, Hex_Seite());
     if (b.Ende <= b.Anfang)
         return;
-    const std::string  Text     = Plattform.Ablage->Text();
     const Einfuegung_T Neues    = Hex ? Aus_Hexpaaren(Text) : Aus_Zeichen(Text);
     const std::int64_t S        = Adresse_Von(b.Anfang);
     const std::int64_t Markiert = b.Ende - b.Anfang > 1 ? b.Ende - b.Anfang : 0;

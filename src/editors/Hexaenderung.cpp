@@ -1,4 +1,5 @@
 // The question before the first edit of an image that was made from a source text.
+#include "core/commands.h"
 #include "core/messages.h"
 #include "core/platform.h"
 #include "core/windows.h"
@@ -35,6 +36,7 @@ void Änderung()
         Datei_Name.clear();
         Plattform.Edit->Text_Setzen({});
         Quell_Datei = {};
+        Sprungmarken_Fuellen();
     }
     Text_Aktuell    = false;
     Datei_Geaendert = true;

@@ -120,6 +120,13 @@ bool Text_KeyDown(const Taste_T& Taste)
 
 // The old line counts as changed even when only its end went: it is handled once the caret's move
 // is reported.
+void Text_Ohne_Taste()
+{
+    Taste_T Taste;
+    Taste.Zeichen = ' '; // as if it had been typed
+    Erste_Taste_Sichern(Taste);
+}
+
 bool Text_KeyPress_Enter()
 {
     if (Debugger_Aktiv)

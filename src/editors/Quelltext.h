@@ -15,21 +15,23 @@ inline struct Quelltext_T {
     // itself, as by Enter. None: not known, the caret's line.
     std::vector<std::int64_t> Geaenderte_Zeilen{};
     std::int64_t              Zeilen_Dabei = 0; // lines of the text when the numbers were right
-} Quelltext;
+} Zeilen_In_Arbeit;
 
 // The state as at program start.
-inline void Quelltext_Zuruecksetzen() { Quelltext = {}; }
+inline void Quelltext_Zuruecksetzen() { Zeilen_In_Arbeit = {}; }
 
 // --- Quelltext.cpp ---
 
 // A key went down in the editor; true: it is done with, the control must not see it.
 // reads: Debugger_Aktiv, Edit   sets: Undo_Taste, Undo_Begonnen, Undo_Oben, Edit, Datei_Geaendert
 bool Text_KeyDown(const Taste_T& Taste);
+// Text is about to come in without a key: dropped, from an input method.   sets: as the first key
+void Text_Ohne_Taste();
 // Enter is typed: a new line with the indent of the old one. True: the control must not see it.
 // reads: Debugger_Aktiv   sets: Edit, Text_Veraendert, Datei_Geaendert
 bool Text_KeyPress_Enter();
 // The user changed the text. Not while Text_Sperre.
-// sets: Text_Veraendert, Quelltext, Datei_Geaendert, Text_Aktuell, caption
+// sets: Text_Veraendert, Zeilen_In_Arbeit, Datei_Geaendert, Text_Aktuell, caption
 void Text_Change();
 // Caret or selection moved, for whatever reason (Zeile_Bearbeiten).
 void Text_SelChange();
@@ -47,9 +49,10 @@ std::int64_t Zeile_von_Position(std::int64_t Zeile);
 // the operators, colours, check of its jumpmarks, jumpmark list. Caret and selection stay at the
 // characters where they were. Cheap when there is nothing to handle.
 // reads: Text_Sperre, Text_Veraendert, Debugger_Aktiv, O_Automatik_Bef
-// sets: Text_Veraendert, Quelltext, Undo_Oben, Edit, Sprungmarken
+// sets: Text_Veraendert, Zeilen_In_Arbeit, Undo_Oben, Edit, Sprungmarken
 void Zeile_Bearbeiten();
-// The line with the start of the selection is a changed one.   sets: Text_Veraendert, Quelltext
+// The line with the start of the selection is a changed one.   sets: Text_Veraendert,
+// Zeilen_In_Arbeit
 void Zeile_Merken();
 
 // --- Einfaerben.cpp ---

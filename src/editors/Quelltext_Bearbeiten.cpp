@@ -47,15 +47,15 @@ static_assert(Zeile_Danach(5, 2, 3) == 7);  // two lines came above
 void Nummern_Nachfuehren(std::int64_t Schreibzeile)
 {
     const std::int64_t Anzahl = Plattform.Edit->Zeilen_Anzahl();
-    const std::int64_t Dazu   = Anzahl - Quelltext.Zeilen_Dabei;
-    for (std::int64_t& Zeile : Quelltext.Geaenderte_Zeilen)
+    const std::int64_t Dazu   = Anzahl - Zeilen_In_Arbeit.Zeilen_Dabei;
+    for (std::int64_t& Zeile : Zeilen_In_Arbeit.Geaenderte_Zeilen)
         Zeile = std::min(Zeile_Danach(Zeile, Dazu, Schreibzeile), Anzahl - 1);
-    Quelltext.Zeilen_Dabei = Anzahl;
+    Zeilen_In_Arbeit.Zeilen_Dabei = Anzahl;
 }
 
 void Nummer_Dazu(std::int64_t Zeile)
 {
-    auto& Zeilen = Quelltext.Geaenderte_Zeilen;
+    auto& Zeilen = Zeilen_In_Arbeit.Geaenderte_Zeilen;
     if (std::find(Zeilen.begin(), Zeilen.end(), Zeile) == Zeilen.end())
         Zeilen.push_back(Zeile);
 }
@@ -66,7 +66,7 @@ std::vector<std::int64_t> Verlassene_Zeilen()
     const Textstelle_T Auswahl = Plattform.Edit->Auswahl();
     const std::int64_t Erste   = Plattform.Edit->Zeile_Von(Auswahl.Anfang);
     const std::int64_t Letzte  = Plattform.Edit->Zeile_Von(Auswahl.Anfang + Auswahl.Laenge);
-    auto&              Zeilen  = Quelltext.Geaenderte_Zeilen;
+    auto&              Zeilen  = Zeilen_In_Arbeit.Geaenderte_Zeilen;
     Nummern_Nachfuehren(Erste);
     if (Zeilen.empty())
         Zeilen = {Erste};
@@ -88,9 +88,9 @@ void Ersetzungen_Schreiben(std::int64_t Anfang, std::vector<Ersetzung_T> Liste)
 {
     std::reverse(Liste.begin(), Liste.end());
     for (const Ersetzung_T& e : Liste) {
-        Plattform.Edit->Auswaehlen(Anfang + static_cast<std::int64_t>(e.Anfang),
-                                   static_cast<std::int64_t>(e.Laenge));
-        Plattform.Edit->Auswahl_Ersetzen(e.Neu);
+        Plattform.Edit->Ersetzen(
+            {Anfang + static_cast<std::int64_t>(e.Anfang), static_cast<std::int64_t>(e.Laenge)},
+            e.Neu);
     }
 }
 
@@ -104,12 +104,7 @@ std::string Zeile_Umschreiben(Textstelle_T Stelle)
     std::vector<Ersetzung_T> Ersetzungen = Ersetzungen_Bilden(Alt, Neu);
     if (Ersetzungen.empty() || Ersetzungen.size() > Ersetzungen_Hoechstens)
         return Alt;
-    const Textstelle_T Auswahl = Plattform.Edit->Auswahl();
-    const auto         Dazu    = static_cast<std::int64_t>(Neu.Leerzeichen_Vor.size());
-    const auto Versetzt = [&](std::int64_t Ort) { return Ort > Stelle.Anfang ? Ort + Dazu : Ort; };
     Ersetzungen_Schreiben(Stelle.Anfang, std::move(Ersetzungen));
-    const std::int64_t Anfang = Versetzt(Auswahl.Anfang);
-    Plattform.Edit->Auswaehlen(Anfang, Versetzt(Auswahl.Anfang + Auswahl.Laenge) - Anfang);
     return std::move(Neu.Text);
 }
 
@@ -162,7 +157,7 @@ void Zeile_Merken()
 {
     const std::int64_t Zeile = Plattform.Edit->Zeile_Von(Plattform.Edit->Auswahl().Anfang);
     if (!Text_Veraendert)
-        Quelltext.Geaenderte_Zeilen.clear();
+        Zeilen_In_Arbeit.Geaenderte_Zeilen.clear();
     Text_Veraendert = true;
     Nummern_Nachfuehren(Zeile);
     Nummer_Dazu(Zeile);
@@ -173,11 +168,11 @@ void Zeile_Bearbeiten()
     if (Text_Sperre || Debugger_Aktiv)
         return;
     if (!Text_Veraendert)
-        return Quelltext.Geaenderte_Zeilen.clear();
+        return Zeilen_In_Arbeit.Geaenderte_Zeilen.clear();
     const std::vector<std::int64_t> Verlassen = Verlassene_Zeilen();
     if (Verlassen.empty())
         return;
-    Text_Veraendert = !Quelltext.Geaenderte_Zeilen.empty();
+    Text_Veraendert = !Zeilen_In_Arbeit.Geaenderte_Zeilen.empty();
     Undo_Schritt_speichern();
     Undo_Oben = Undo_Index;
     for (const std::int64_t Zeile : Verlassen)

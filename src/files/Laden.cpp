@@ -7,6 +7,7 @@
 #include "core/undo.h"
 #include "core/windows.h"
 #include "editors/Hexedit.h"
+#include "editors/Quelltext.h"
 #include "editors/Quelltext_Sperre.h"
 #include "files/Dat.h"
 #include "files/Datei_Zustand.h"
@@ -159,6 +160,8 @@ void Quelltext_Zeigen()
         const Edit_Ruhe Ruhe;
         In_Textfeld_Geben(Quell_Datei, *Plattform.Edit);
     }
+    Text_Veraendert = false; // a line of the old text that was in work
+    Quelltext_Zuruecksetzen();
     Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor " + Datei_Name);
     if (!Plattform.Edit->Wird_Gezeigt())
         return;
@@ -196,6 +199,18 @@ void Nach_Typ_Laden()
         Undo_Zuruecksetzen();
 }
 
+// The long file wasn't loaded: a later save must not go over it. Its image is erased, and so
+// without a name; during an import it stands as before.
+void Teilladen_Aufgeben(const std::string& Bisher)
+{
+    Datei_Name = Import_Laeuft || Vergleich_Laeuft ? Bisher : std::string{};
+    if (Import_Laeuft || Vergleich_Laeuft)
+        return;
+    Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor ");
+    Undo_Zuruecksetzen();
+    Hex_Anzeige();
+}
+
 } // namespace
 
 bool Datei_Gefunden()
@@ -219,6 +234,8 @@ void Datei_Laden()
         Nach_Typ_Laden();
     if (Datei_Fehler == Dateifehler::Lesefehler)
         Datei_Name = Bisher; // a later save must not go over the file that couldn't be read
+    if (Datei_Fehler == Dateifehler::Teilladen_Offen)
+        Teilladen_Aufgeben(Bisher);
     Plattform.Ereignisse->Mauszeiger_Warten(false);
     ++Dateien.Vorgang;
 }

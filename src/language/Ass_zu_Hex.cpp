@@ -39,6 +39,7 @@ void Fortschritt_Zeigen(int Prozent, std::string_view Zahl)
 
 void Lauf_Beginnen()
 {
+    Abbruch = false;
     Plattform.Status->Oeffnen();
     Plattform.Status->Text(In_Sprache({" Assemblierung läuft...", " Assembling data..."}));
     Plattform.Ereignisse->Eine_Runde();

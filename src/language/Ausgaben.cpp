@@ -49,11 +49,13 @@ void Automatische_Dateien()
         return;
     const std::string Stamm  = Quell_Pfad.substr(0, Punkt);
     const auto        Letzte = Letzte_Datei;
+    const bool        Offen  = Datei_Geaendert; // of the source, which isn't saved by this
     Modus                    = Modus_Hex;
     Automatisch_Speichern(Stamm, C_Auto_Binfile, ".bin");
     Automatisch_Speichern(Stamm, C_Auto_Hexfile, ".hex");
-    Modus        = Modus_MC;
-    Letzte_Datei = Letzte;
+    Modus           = Modus_MC;
+    Letzte_Datei    = Letzte;
+    Datei_Geaendert = Offen;
     Letzte_Dateien_Zeigen();
 }
 

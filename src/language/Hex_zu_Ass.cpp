@@ -36,6 +36,7 @@ bool Prozent_Geschafft(int Prozent)
 
 void Lauf_Beginnen()
 {
+    Abbruch = false;
     Plattform.Status->Oeffnen();
     Plattform.Status->Text(In_Sprache({" Disassemblierung läuft...", " Disassembling data..."}));
 }
@@ -56,6 +57,7 @@ void In_Den_Editor(std::string Text)
 bool Leeren_Text_Zeigen()
 {
     In_Den_Editor({});
+    Sprungmarken_Fuellen();
     Plattform.Status->Schliessen();
     return true;
 }

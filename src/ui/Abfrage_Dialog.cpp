@@ -58,7 +58,7 @@ Abfrage_Dialog::Abfrage_Dialog(std::string_view Text, QWidget* Eltern) : QDialog
     Bereich1->setChecked(true);
     auto* Knoepfe_Leiste = new QDialogButtonBox;
     auto* Ok  = Knoepfe_Leiste->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole);
-    auto* Weg = Knoepfe_Leiste->addButton(Qt_Text(In_Sprache({"Abbrechen", "Cancel"})),
+    auto* Weg = Knoepfe_Leiste->addButton(Qt_Text(In_Sprache({"Abbrechen", "Abort"})),
                                           QDialogButtonBox::RejectRole);
     Ok->setObjectName(QStringLiteral("OK"));
     Ok->setDefault(true);

@@ -17,9 +17,9 @@ constexpr int Ruhe = 300; // milliseconds: who writes a file often writes it in 
 
 Dateiwaechter::Dateiwaechter(QObject* Eltern) : QObject(Eltern)
 {
-    connect(&Waechter, &QFileSystemWatcher::fileChanged, this, [this] {
-        QTimer::singleShot(Ruhe, this, &Dateiwaechter::Pruefen);
-    });
+    const auto Bald = [this] { QTimer::singleShot(Ruhe, this, &Dateiwaechter::Pruefen); };
+    connect(&Waechter, &QFileSystemWatcher::fileChanged, this, Bald);
+    connect(&Waechter, &QFileSystemWatcher::directoryChanged, this, Bald);
 }
 
 Dateiwaechter::Stand_T Dateiwaechter::Stand_Von(const QString& Datei)
@@ -38,8 +38,11 @@ void Dateiwaechter::Nachziehen()
         Waechter.removePaths(Waechter.files());
     Name    = Neu;
     Bekannt = Stand_Von(Name);
-    if (Bekannt.Da)
-        Waechter.addPath(Name);
+    if (!Waechter.directories().isEmpty())
+        Waechter.removePaths(Waechter.directories());
+    if (Bekannt.Da) // the folder too: a file that is removed and made again is watched no longer
+        Waechter.addPaths({Name, QFileInfo(Name).absolutePath()});
+    emit Andere_Datei();
 }
 
 void Dateiwaechter::Abgetan() { Bekannt = Stand_Von(Name); }

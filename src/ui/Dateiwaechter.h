@@ -20,6 +20,7 @@ public:
 
 signals:
     void Datei_Fremd_Geaendert(const QString& Name);
+    void Andere_Datei(); // the document has another file, or has just been loaded or saved
 
 private:
     struct Stand_T {

@@ -89,6 +89,12 @@ void Hexedit_Fenster::Verbinden()
     });
 }
 
+void Hexedit_Fenster::Fokus()
+{
+    Hex_Gitter* Feld = Hex_Aktives_Feld == Feld_AscII ? Feld_Zeichen : Feld_Ziffern;
+    Feld->setFocus(Qt::OtherFocusReason);
+}
+
 QSize Hexedit_Fenster::sizeHint() const
 {
     const int Zeile = Feld_Ziffern->Zeilen_Hoehe();

@@ -35,6 +35,7 @@ public:
     // Repaints when the logic has counted a change of page, marking or active pane.
     void  Nachziehen();
     QSize sizeHint() const override;
+    void  Fokus(); // to the pane that had it last
 
 signals:
     void Kontextmenue(const QPoint& Ort); // on the screen

@@ -75,7 +75,9 @@ Kindfenster::Kindfenster(int Nummer, const QString& Name, QWidget* Inhalt, bool 
 
 Lage_T Kindfenster::Lage() const
 {
-    const QRect r = isMaximized() || isMinimized() ? normalGeometry() : geometry();
+    if (isMaximized() || isMinimized())
+        return {}; // no place of its own: the one that is kept holds
+    const QRect r = geometry();
     return {r.top(), r.left(), r.height(), r.width()};
 }
 
@@ -89,8 +91,8 @@ void Kindfenster::Lage_Setzen(const Lage_T& Neue, const QSize& Flaeche)
         std::clamp(Neue.Hoehe, Kleinste_Hoehe, std::max(Flaeche.height(), Kleinste_Hoehe));
     const int Links = std::clamp(Neue.Links, Griff - Breite, std::max(Flaeche.width() - Griff, 0));
     const int Oben  = std::clamp(Neue.Oben, 0, std::max(Flaeche.height() - Griff, 0));
-    if (isMaximized() || isMinimized())
-        showNormal();
+    // Not showNormal(): it would bring a hidden window to light.
+    setWindowState(windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized));
     setGeometry(Links, Oben, Breite, Hoehe);
 }
 

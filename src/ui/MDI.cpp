@@ -19,6 +19,7 @@
 #include "ui/Hexedit_Fenster.h"
 #include "ui/Kindfenster.h"
 #include "ui/Menueleiste.h"
+#include "ui/Notiz_Feld.h"
 #include "ui/Qt_Text.h"
 #include "ui/Quelltext_Feld.h"
 #include "ui/Spr_Fenster.h"
@@ -35,6 +36,7 @@
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTextBlock>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -89,10 +91,12 @@ void MDI::Kinder_Bauen()
     Edit  = new Quelltext_Feld;
     Hex   = new Hexedit_Fenster;
     Spr   = new Spr_Fenster;
-    Notiz = new Text_Feld;
+    Notiz = new Notiz_Feld;
     Edit->setObjectName(QStringLiteral("Text"));
     Notiz->setObjectName(QStringLiteral("Notiz_Text"));
     Notiz->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    Notiz->setFrameShape(QFrame::NoFrame);
+    Edit->setFrameShape(QFrame::NoFrame);
     Edit->setAccessibleName(QStringLiteral("MC-Editor"));
     const auto Einsetzen = [this](int Nummer, const char* Name, QWidget* Inhalt, bool Hauptsache) {
         auto* Neues = new Kindfenster(Nummer, QString::fromLatin1(Name), Inhalt, Hauptsache);
@@ -111,10 +115,14 @@ void MDI::Welt_Einsetzen()
     Box.Bei_Hinweis        = [this](std::string_view Text) { Zeile->Hinweisen(Text); };
     Ereignisse.Nachziehen  = [this] { Nachziehen(); };
     Ereignisse.Bei_Sperren = [this](bool Gesperrt) {
+        if (Gesperrt && focusWidget() != nullptr)
+            Fokus_Vorher = focusWidget();
         menuBar()->setEnabled(!Gesperrt);
         for (QToolBar* Leiste : findChildren<QToolBar*>())
             Leiste->setEnabled(!Gesperrt);
         centralWidget()->setEnabled(!Gesperrt);
+        if (!Gesperrt)
+            Fokus_Zurueck();
     };
     Ereignisse.Bei_Titel = [this](int Nummer, std::string_view Text) {
         if (Kindfenster* k = Kind(Nummer))
@@ -142,6 +150,7 @@ void MDI::Kinder_Verbinden()
     connect(Edit, &Quelltext_Feld::Kontextmenue, this, &MDI::Bearbeiten_Menue);
     connect(
         Edit, &Quelltext_Feld::Zoom_Geaendert, this, [](int Prozent) { varnholt::Zoom = Prozent; });
+    connect(Notiz, &Notiz_Feld::Kontextmenue, this, &MDI::Bearbeiten_Menue);
     connect(Hex, &Hexedit_Fenster::Kontextmenue, this, &MDI::Bearbeiten_Menue);
     connect(Spr, &Spr_Fenster::Eintrag_Gewaehlt, this, [this](int Nummer) {
         Ausfuehren([Nummer] { Spr_Liste_Click(Nummer); });
@@ -154,11 +163,9 @@ void MDI::Kinder_Verbinden()
     });
     connect(Fremd, &Fremd_Hinweis::Neu_Laden, this, [this] {
         Fremd->hide();
-        Ausfuehren([] {
-            Dialog_Name = Datei_Name;
-            Datei_Laden();
-        });
+        Ausfuehren([] { Datei_Vorgegeben_Laden(std::string(Datei_Name)); });
     });
+    connect(Waechter, &Dateiwaechter::Andere_Datei, Fremd, &QWidget::hide);
 }
 
 // --- commands and state ---
@@ -189,8 +196,10 @@ void MDI::Nachziehen()
 void MDI::Kind_Aktiviert(QMdiSubWindow* Neues)
 {
     const auto* k = dynamic_cast<Kindfenster*>(Neues);
+    if (k == nullptr && Aktives_Kind != 0) // the focus went to a dialog or another program
+        return Fenster_Merken(Aktives_Kind);
     if (k == nullptr || k->Nummer() == Aktives_Kind)
-        return; // the main window lost the focus, or has it again
+        return;
     switch (Aktives_Kind) {
     case Fenster_Hexedit:
         Hexedit_Deactivate();
@@ -212,6 +221,16 @@ void MDI::Kind_Aktiviert(QMdiSubWindow* Neues)
     default:
         Aktives_Fenster = Aktives_Kind;
     }
+}
+
+// Disabling takes the focus away for good: afterwards it goes back, or to the window of the mode.
+void MDI::Fokus_Zurueck()
+{
+    if (Fokus_Vorher != nullptr && Fokus_Vorher->isVisible())
+        Fokus_Vorher->setFocus(Qt::OtherFocusReason);
+    else
+        Fokus(Modus == Modus_Hex ? Fenster_Hexedit : Fenster_Edit);
+    Fokus_Vorher = nullptr;
 }
 
 void MDI::Bearbeiten_Menue(const QPoint& Ort)
@@ -241,7 +260,9 @@ void MDI::dragEnterEvent(QDragEnterEvent* Ereignis)
 void MDI::dropEvent(QDropEvent* Ereignis)
 {
     Ereignis->acceptProposedAction();
-    Datei_Oeffnen(Ereignis->mimeData()->urls().constFirst().toLocalFile());
+    // Later: a question must not keep the program waiting that the file comes from.
+    const QString Name = Ereignis->mimeData()->urls().constFirst().toLocalFile();
+    QTimer::singleShot(0, this, [this, Name] { Datei_Oeffnen(Name); });
 }
 
 // --- the end ---

@@ -7,6 +7,7 @@
 #include "ui/Status_Dialog.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <array>
 #include <functional>
@@ -22,10 +23,10 @@ class Fremd_Hinweis;
 class Hexedit_Fenster;
 class Kindfenster;
 class Menueleiste;
+class Notiz_Feld;
 class Quelltext_Feld;
 class Spr_Fenster;
 class Statuszeile;
-class Text_Feld;
 
 class MDI : public QMainWindow, public Fensterwelt {
     Q_OBJECT
@@ -68,6 +69,8 @@ signals:
 protected:
     void closeEvent(QCloseEvent* Ereignis) override;
     void changeEvent(QEvent* Ereignis) override;
+    void moveEvent(QMoveEvent* Ereignis) override;
+    void resizeEvent(QResizeEvent* Ereignis) override;
     void dragEnterEvent(QDragEnterEvent* Ereignis) override;
     void dropEvent(QDropEvent* Ereignis) override;
 
@@ -79,6 +82,10 @@ private:
     void Datei_Oeffnen(const QString& Name);
     void Fremde_Aenderung(const QString& Name);
     void Zeigen_Falls_Noetig();
+    void Auf_Den_Schirm();
+    void Platz_Merken();
+    void Auf_Groesse_Warten();
+    void Fokus_Zurueck();
     void Bearbeiten_Menue(const QPoint& Ort);
 
     Qt_Box        Box{};
@@ -96,13 +103,14 @@ private:
     Quelltext_Feld*  Edit     = nullptr;
     Hexedit_Fenster* Hex      = nullptr;
     Spr_Fenster*     Spr      = nullptr;
-    Text_Feld*       Notiz    = nullptr;
+    Notiz_Feld*      Notiz    = nullptr;
 
     std::array<Kindfenster*, 11>            Kinder{};    // by window number; null: still to come
     std::array<std::unique_ptr<QWidget>, 3> Formulare{}; // Start, Erststart, Abfrage_Modus
-    int                                     Aktives_Kind  = 0;
-    bool                                    Befehl_Laeuft = false;
-    bool                                    Beendet       = false;
+    QPointer<QWidget> Fokus_Vorher{}; // who had the focus when the windows were disabled
+    int               Aktives_Kind  = 0;
+    bool              Befehl_Laeuft = false;
+    bool              Beendet       = false;
 };
 
 } // namespace varnholt

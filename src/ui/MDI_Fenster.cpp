@@ -8,6 +8,7 @@
 #include "ui/Hexedit_Fenster.h"
 #include "ui/Kindfenster.h"
 #include "ui/MDI.h"
+#include "ui/Notiz_Feld.h"
 #include "ui/Optionen_Dialog.h"
 #include "ui/Qt_Text.h"
 #include "ui/Quelltext_Feld.h"
@@ -15,8 +16,11 @@
 #include "ui/Start_Bild.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMdiArea>
 #include <QScreen>
+#include <QStringList>
+#include <QTimer>
 
 namespace varnholt {
 
@@ -62,7 +66,10 @@ void MDI::Fokus(int Nummer)
     if (k == nullptr)
         return;
     Flaeche->setActiveSubWindow(k);
-    k->widget()->setFocus(Qt::OtherFocusReason);
+    if (Nummer == Fenster_Hexedit)
+        Hex->Fokus();
+    else
+        k->widget()->setFocus(Qt::OtherFocusReason);
 }
 
 // The main window comes up, behind the splash, when something is to be put into it.
@@ -70,12 +77,78 @@ void MDI::Zeigen_Falls_Noetig()
 {
     if (isVisible())
         return;
-    if (const QScreen* s = screen())
-        setGeometry(s->availableGeometry().adjusted(40, 40, -40, -40));
-    showMaximized();
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    Auf_Den_Schirm();
+    Auf_Groesse_Warten();
     if (Formulare[0])
         Formulare[0]->raise();
+}
+
+// Where it stood at the end of the last run, as far as that is on the screen; else all of it.
+void MDI::Auf_Den_Schirm()
+{
+    constexpr int Kleinste = 320; // device-independent pixels
+    constexpr int Rand     = 40;
+    const QRect   Schirm   = screen()->availableGeometry();
+    const auto    Zahlen   = Qt_Text(Hauptfenster).split(u' ');
+    const QRect   Alt =
+        Zahlen.size() == 4
+              ? QRect(Zahlen[0].toInt(), Zahlen[1].toInt(), Zahlen[2].toInt(), Zahlen[3].toInt())
+              : QRect();
+    const QRect Sichtbar_Davon = Alt & Schirm;
+    if (Sichtbar_Davon.width() >= Kleinste && Sichtbar_Davon.height() >= Kleinste) {
+        setGeometry(Sichtbar_Davon);
+        return show();
+    }
+    setGeometry(Schirm.adjusted(Rand, Rand, -Rand, -Rand));
+    showMaximized();
+}
+
+void MDI::Platz_Merken()
+{
+    if (!isVisible() || isMinimized() || Init_Laeuft)
+        return;
+    const QRect r = geometry();
+    Hauptfenster  = isMaximized() ? "max"
+                                  : Nach_Std(QStringLiteral("%1 %2 %3 %4")
+                                                .arg(r.x())
+                                                .arg(r.y())
+                                                .arg(r.width())
+                                                .arg(r.height()));
+}
+
+void MDI::moveEvent(QMoveEvent* Ereignis)
+{
+    QMainWindow::moveEvent(Ereignis);
+    Platz_Merken();
+}
+
+void MDI::resizeEvent(QResizeEvent* Ereignis)
+{
+    QMainWindow::resizeEvent(Ereignis);
+    Platz_Merken();
+}
+
+// The window manager answers in its own time: until the window has the size that it will keep, the
+// child windows have no places.
+void MDI::Auf_Groesse_Warten()
+{
+    constexpr int Hoechstens = 600; // milliseconds; there may be no window manager
+    constexpr int Ruhe       = 80;  // without a change of size
+    constexpr int Schritt    = 10;
+    QElapsedTimer Gesamt;
+    QElapsedTimer Seit_Aenderung;
+    QSize         Zuletzt = size();
+    Gesamt.start();
+    Seit_Aenderung.start();
+    while (Gesamt.elapsed() < Hoechstens && Seit_Aenderung.elapsed() < Ruhe) {
+        QEventLoop Schleife;
+        QTimer::singleShot(Schritt, &Schleife, &QEventLoop::quit);
+        Schleife.exec(QEventLoop::ExcludeUserInputEvents);
+        if (size() != Zuletzt) {
+            Zuletzt = size();
+            Seit_Aenderung.restart();
+        }
+    }
 }
 
 Lage_T MDI::Innenmass() const
@@ -109,12 +182,12 @@ void MDI::Schrift_Setzen(int Nummer, const Schrift_T& Schrift)
 {
     switch (Nummer) {
     case Fenster_Edit:
-        Edit->Grund_Schrift_Setzen(Qt_Schrift(Schrift, Edit->Grund_Schrift()));
+        Edit->Grund_Schrift_Setzen(Qt_Schrift(Schrift, Schrift_Vorgabe(Schrift_Edit)));
         return Edit->Zoom_Setzen(varnholt::Zoom);
     case Fenster_Spr:
-        return Spr->setFont(Qt_Schrift(Schrift, Spr->font()));
+        return Spr->setFont(Qt_Schrift(Schrift, Schrift_Vorgabe(Schrift_Spr)));
     case Fenster_Notiz:
-        return Notiz->setFont(Qt_Schrift(Schrift, Notiz->font()));
+        return Notiz->setFont(Qt_Schrift(Schrift, Schrift_Vorgabe(Schrift_Notiz)));
     default:
         return;
     }

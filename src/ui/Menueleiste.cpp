@@ -28,6 +28,18 @@ QString Menue_Text(const std::string& Titel)
     return Qt_Text(Titel).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+// A caption of the menu bar with an underlined letter that no caption ahead of it has.
+QString Mit_Buchstabe(const std::string& Titel, QString& Vergeben)
+{
+    QString Text = Menue_Text(Titel);
+    for (qsizetype i = 0; i < Text.size(); ++i)
+        if (Text[i].isLetter() && !Vergeben.contains(Text[i], Qt::CaseInsensitive)) {
+            Vergeben += Text[i];
+            return Text.insert(i, u'&');
+        }
+    return Text;
+}
+
 } // namespace
 
 Menueleiste::Menueleiste(QMainWindow* Fenster, Ausfuehrer_T Ausfuehrer)
@@ -113,12 +125,22 @@ void Menueleiste::Eintrag_Zeigen(std::size_t Platz)
     const Menue_Zustand_T& z  = Menues.Eintraege[Platz];
     QAction*               a  = Eintraege[Platz];
     Gezeigte_Eintraege[Platz] = {z, Menue_Bereit(Platz)};
-    if (!a->isSeparator())
+    if (Menue_Tabelle[Platz].Eltern.empty())
+        Menueleiste_Beschriften();
+    else if (!a->isSeparator())
         a->setText(Menue_Text(z.Titel));
     a->setVisible(z.Sichtbar);
     a->setEnabled(Menue_Bereit(Platz) || a->isSeparator());
     a->setCheckable(z.Haken);
     a->setChecked(z.Haken);
+}
+
+void Menueleiste::Menueleiste_Beschriften()
+{
+    QString Vergeben;
+    for (std::size_t i = 0; i < Menue_Anzahl; ++i)
+        if (Menue_Tabelle[i].Eltern.empty() && Eintraege[i] != nullptr)
+            Eintraege[i]->setText(Mit_Buchstabe(Menues.Eintraege[i].Titel, Vergeben));
 }
 
 void Menueleiste::Knopf_Zeigen(int Position)

@@ -34,6 +34,7 @@ private:
     void Menues_Bauen();
     void Leiste_Bauen();
     void Eintrag_Zeigen(std::size_t Platz);
+    void Menueleiste_Beschriften();
     void Knopf_Zeigen(int Position);
 
     struct Gezeigt_T {

@@ -135,15 +135,11 @@ QLineEdit* Eingabe(std::string_view Name, std::string& Ziel)
 }
 
 // The default font of a window whose font isn't chosen.
-QFont Grund_Schrift(int Ziel)
-{
-    return Ziel == Schrift_Edit ? QFontDatabase::systemFont(QFontDatabase::FixedFont)
-                                : QApplication::font();
-}
 
 QFont Probe_Schrift(int Ziel)
 {
-    return Qt_Schrift(Optionen_Form.Probe.at(static_cast<std::size_t>(Ziel)), Grund_Schrift(Ziel));
+    return Qt_Schrift(Optionen_Form.Probe.at(static_cast<std::size_t>(Ziel)),
+                      Schrift_Vorgabe(Ziel));
 }
 
 } // namespace

@@ -1,6 +1,11 @@
 // Texts, colours and fonts at the border between the logic and Qt.
 #include "ui/Qt_Text.h"
 
+#include "core/settings.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+
 #include <algorithm>
 #include <array>
 
@@ -86,6 +91,16 @@ Schrift_T Schrift_Aus(const QFont& Schrift)
 {
     const double Punkte = Schrift.pointSizeF();
     return {Nach_Std(Schrift.family()), Schrift.bold(), Schrift.italic(), Punkte > 0 ? Punkte : 0};
+}
+
+QFont Schrift_Vorgabe(int Ziel)
+{
+    if (Ziel != Schrift_Edit)
+        return QApplication::font();
+    constexpr double Lesbar  = 11; // points; a desktop's fixed font is often smaller
+    QFont            Schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    Schrift.setPointSizeF(std::max(Schrift.pointSizeF(), Lesbar));
+    return Schrift;
 }
 
 } // namespace varnholt

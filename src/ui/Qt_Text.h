@@ -36,5 +36,7 @@ std::int32_t Farbe_Aus(const QColor& Farbe);
 // A font; what is not set stays as in Grund.
 QFont     Qt_Schrift(const Schrift_T& Schrift, const QFont& Grund);
 Schrift_T Schrift_Aus(const QFont& Schrift);
+// The font of a window for which none is chosen, by Schrift_Edit, Schrift_Spr, Schrift_Notiz.
+QFont Schrift_Vorgabe(int Ziel);
 
 } // namespace varnholt

@@ -4,6 +4,7 @@
 #include "core/codepage.h"
 #include "core/messages.h"
 #include "core/shared_state.h"
+#include "core/version.h"
 #include "ui/Abfrage_Dialog.h"
 #include "ui/Qt_Text.h"
 #include "ui/Verknuepfung.h"
@@ -12,7 +13,6 @@
 #include <QClipboard>
 #include <QColorDialog>
 #include <QDesktopServices>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QInputDialog>
@@ -21,6 +21,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTime>
+#include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
@@ -79,6 +80,14 @@ public:
     Ohne_Wartezeiger& operator=(const Ohne_Wartezeiger&) = delete;
 };
 
+// A modal window (the progress dialog) keeps the others out of reach by itself; without one, keys
+// and clicks wait until the running command is through.
+QEventLoop::ProcessEventsFlag Art_Der_Runde()
+{
+    return QApplication::activeModalWidget() != nullptr ? QEventLoop::AllEvents
+                                                        : QEventLoop::ExcludeUserInputEvents;
+}
+
 QWidget* Oberstes() { return QApplication::activeWindow(); }
 
 } // namespace
@@ -90,7 +99,7 @@ int Qt_Box::Zeigen(const Meldung_T& Meldung)
     const Ohne_Wartezeiger Zeiger;
     QMessageBox            Box(Oberstes());
     Box.setObjectName(QStringLiteral("Meldung"));
-    Box.setWindowTitle(Meldung.Titel.empty() ? QApplication::applicationDisplayName()
+    Box.setWindowTitle(Meldung.Titel.empty() ? Qt_Text(Programm_Name)
                                              : Meldungs_Text(Meldung.Titel));
     Box.setTextFormat(Qt::PlainText);
     Box.setText(Meldungs_Text(Meldung.Text).trimmed());
@@ -112,7 +121,7 @@ std::string Qt_Box::Eingeben(std::string_view Text)
     const Ohne_Wartezeiger Zeiger;
     QInputDialog           Dialog(Oberstes());
     Dialog.setObjectName(QStringLiteral("Eingabe"));
-    Dialog.setWindowTitle(QApplication::applicationDisplayName());
+    Dialog.setWindowTitle(Qt_Text(Programm_Name));
     Dialog.setLabelText(Meldungs_Text(Text));
     Dialog.setOkButtonText(QStringLiteral("OK"));
     Dialog.setCancelButtonText(Qt_Text(In_Sprache({"Abbrechen", "Cancel"})));
@@ -138,14 +147,11 @@ int Qt_Box::Bereich_Waehlen(std::string_view Text)
 
 // --- event loop ---
 
-// A modal window (the progress dialog) keeps the others out of reach by itself; without one, keys
-// and clicks wait until the running command is through.
 void Qt_Ereignisse::Eine_Runde()
 {
     if (Nachziehen)
         Nachziehen();
-    const bool Modal = QApplication::activeModalWidget() != nullptr;
-    QApplication::processEvents(Modal ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
+    QApplication::processEvents(Art_Der_Runde());
 }
 
 void Qt_Ereignisse::Mauszeiger_Warten(bool Warten)
@@ -167,12 +173,11 @@ void Qt_Ereignisse::Fenster_Sperren(bool Gesperrt)
 
 void Qt_Ereignisse::Pause(double Sekunden)
 {
-    QElapsedTimer Stoppuhr;
-    Stoppuhr.start();
-    const auto Dauer = static_cast<qint64>(Sekunden * 1000);
-    while (!Uhr && Stoppuhr.elapsed() < Dauer)
-        QApplication::processEvents(QEventLoop::WaitForMoreEvents,
-                                    static_cast<int>(Dauer - Stoppuhr.elapsed()));
+    if (Uhr)
+        return Eine_Runde();
+    QEventLoop Schleife;
+    QTimer::singleShot(static_cast<int>(Sekunden * 1000), &Schleife, &QEventLoop::quit);
+    Schleife.exec(Art_Der_Runde());
 }
 
 void Qt_Ereignisse::Titel(int Fenster, std::string_view Text)
@@ -181,7 +186,10 @@ void Qt_Ereignisse::Titel(int Fenster, std::string_view Text)
         Bei_Titel(Fenster, Text);
 }
 
-double Qt_Ereignisse::Sekunden() { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
+double Qt_Ereignisse::Sekunden()
+{
+    return Uhr ? Uhr() : QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
 
 // --- dialogs ---
 
@@ -204,6 +212,16 @@ QStringList Qt_Filter(std::string_view Filter)
     return Liste;
 }
 
+QString Filter_Endung(const QString& Filter)
+{
+    const qsizetype Stern = Filter.indexOf(QLatin1String("(*."));
+    if (Stern < 0)
+        return {};
+    const qsizetype Anfang = Stern + 3;
+    const qsizetype Ende   = Filter.indexOf(QRegularExpression(QStringLiteral("[ )]")), Anfang);
+    return Filter.mid(Anfang, Ende - Anfang);
+}
+
 void Qt_Dialoge::Datei_Waehlen(Dateiwahl_T& Wahl)
 {
     const Ohne_Wartezeiger Zeiger;
@@ -222,6 +240,12 @@ void Qt_Dialoge::Datei_Waehlen(Dateiwahl_T& Wahl)
         Dialog.setDirectory(Qt_Text(Wahl.Verzeichnis));
     if (!Wahl.Name.empty())
         Dialog.selectFile(Qt_Text(Wahl.Name));
+    // A name without an extension gets that of the filter; the filter "all files" has none.
+    const auto Endung_Setzen = [&Dialog](const QString& Gewaehlt) {
+        Dialog.setDefaultSuffix(Filter_Endung(Gewaehlt));
+    };
+    Endung_Setzen(Dialog.selectedNameFilter());
+    QObject::connect(&Dialog, &QFileDialog::filterSelected, &Dialog, Endung_Setzen);
     Wahl.Name.clear();
     if (Dialog.exec() != QDialog::Accepted || Dialog.selectedFiles().isEmpty())
         return;

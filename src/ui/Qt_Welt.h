@@ -62,5 +62,7 @@ public:
 
 // Patterns of a filter as Qt writes them: "Name (*.asm *.ASM)". A pattern is taken in both cases.
 QStringList Qt_Filter(std::string_view Filter);
+// The extension of a filter's first pattern, without the dot; empty where it has none.
+QString Filter_Endung(const QString& Filter);
 
 } // namespace varnholt

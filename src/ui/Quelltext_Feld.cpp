@@ -1,11 +1,11 @@
 // The text control of `Edit`.
 #include "ui/Quelltext_Feld.h"
 
+#include "core/settings.h"
 #include "editors/Quelltext.h"
 #include "ui/Qt_Text.h"
 #include "ui/Tasten.h"
 
-#include <QFontDatabase>
 #include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
@@ -36,7 +36,8 @@ private:
 // to the same routines.
 bool Eigene_Taste(const QKeyEvent& Taste, bool Auswahl)
 {
-    const bool Strg = Taste.modifiers() == Qt::ControlModifier;
+    const auto Dazu = Taste.modifiers() & ~Qt::KeypadModifier;
+    const bool Strg = Dazu == Qt::ControlModifier;
     switch (Taste.key()) {
     case Qt::Key_V:
     case Qt::Key_X:
@@ -47,11 +48,24 @@ bool Eigene_Taste(const QKeyEvent& Taste, bool Auswahl)
     case Qt::Key_Left:
     case Qt::Key_Right:
         return Strg;
+    case Qt::Key_Insert:
+        return true;
     case Qt::Key_Delete:
-        return Strg || Auswahl || Taste.modifiers() == Qt::NoModifier;
+        return Strg || Auswahl || Dazu == Qt::NoModifier;
     default:
         return false;
     }
+}
+
+// The key, or the letter of the command that the desktop has put on it (Shift+Ins for Ctrl+V).
+Taste_T Befehls_Taste(const QKeyEvent& Ereignis)
+{
+    Taste_T Taste = Taste_Aus(Ereignis);
+    if (Ereignis.matches(QKeySequence::Paste))
+        Taste = {'V', false, true};
+    else if (Ereignis.matches(QKeySequence::Cut))
+        Taste = {'X', false, true};
+    return Taste;
 }
 
 QColor Gemischt(const QColor& a, const QColor& b, double Anteil_B)
@@ -65,10 +79,8 @@ QColor Gemischt(const QColor& a, const QColor& b, double Anteil_B)
 } // namespace
 
 Quelltext_Feld::Quelltext_Feld(QWidget* Eltern)
-    : Text_Feld(Eltern), Nummern(new Nummern_Rand(this)),
-      Grund(QFontDatabase::systemFont(QFontDatabase::FixedFont))
+    : Text_Feld(Eltern), Nummern(new Nummern_Rand(this)), Grund(Schrift_Vorgabe(Schrift_Edit))
 {
-    Grund.setPointSizeF(std::max(Grund.pointSizeF(), 11.0));
     setCursorWidth(2);
     Zoom_Setzen(100);
     connect(this, &QPlainTextEdit::blockCountChanged, this, &Quelltext_Feld::Rand_Setzen);
@@ -109,9 +121,10 @@ void Quelltext_Feld::Bewegung_Melden()
 bool Quelltext_Feld::event(QEvent* Ereignis)
 {
     if (Ereignis->type() == QEvent::ShortcutOverride) {
-        auto*      Taste   = static_cast<QKeyEvent*>(Ereignis);
-        const bool Zeichen = (Taste->modifiers() & ~Qt::ShiftModifier) == Qt::NoModifier &&
-                             (Taste->key() < Qt::Key_F1 || Taste->key() > Qt::Key_F35);
+        auto*      Taste = static_cast<QKeyEvent*>(Ereignis);
+        const bool Zeichen =
+            (Taste->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier &&
+            (Taste->key() < Qt::Key_F1 || Taste->key() > Qt::Key_F35);
         Ereignis->setAccepted(Eigene_Taste(*Taste, textCursor().hasSelection()) ||
                               (Zeichen && Taste->key() != Qt::Key_Delete));
         return true;
@@ -121,7 +134,10 @@ bool Quelltext_Feld::event(QEvent* Ereignis)
 
 void Quelltext_Feld::keyPressEvent(QKeyEvent* Ereignis)
 {
-    const Taste_T Taste = Taste_Aus(*Ereignis);
+    if (Ereignis->modifiers() == Qt::AltModifier && !Ereignis->text().isEmpty())
+        return Ereignis->ignore(); // the letter of a menu, not a character
+    Maus_Unten          = false;   // a drag that ended elsewhere has swallowed the release
+    const Taste_T Taste = Befehls_Taste(*Ereignis);
     const bool    Enter = Taste.Code == Taste_Enter && !Taste.Strg;
     if (Text_KeyDown(Taste) || (Enter && Text_KeyPress_Enter()))
         Ereignis->accept();
@@ -132,6 +148,8 @@ void Quelltext_Feld::keyPressEvent(QKeyEvent* Ereignis)
 
 void Quelltext_Feld::inputMethodEvent(QInputMethodEvent* Ereignis)
 {
+    if (!Ereignis->commitString().isEmpty())
+        Text_Ohne_Taste();
     Text_Feld::inputMethodEvent(Ereignis);
     Bewegung_Melden();
 }
@@ -155,14 +173,26 @@ void Quelltext_Feld::contextMenuEvent(QContextMenuEvent* Ereignis)
     emit Kontextmenue(Ereignis->globalPos());
 }
 
-// Text that is dropped or comes by the middle button: its lines get their colours at once.
+// Text that is dropped or comes by the middle button. Its lines get their colours when Qt is done
+// with it, and the logic knows the new text.
 void Quelltext_Feld::insertFromMimeData(const QMimeData* Daten)
 {
     if (isReadOnly() || !Daten->hasText())
         return;
-    const std::int64_t Erste = Zeile_Von(Auswahl().Anfang);
-    textCursor().insertText(Daten->text(), {});
-    Zeilen_Einfaerben(Erste, Zeile_Von(Auswahl().Anfang));
+    Text_Ohne_Taste();
+    QTextCursor Zeiger = textCursor();
+    const int   Erste  = document()->findBlock(Zeiger.selectionStart()).blockNumber();
+    Zeiger.insertText(Daten->text(), {});
+    const int Letzte = Zeiger.blockNumber();
+    QTimer::singleShot(0, this, [Erste, Letzte] { Zeilen_Einfaerben(Erste, Letzte); });
+}
+
+void Quelltext_Feld::dropEvent(QDropEvent* Ereignis)
+{
+    Text_Ohne_Taste(); // a move takes the text away before it puts it in
+    Text_Feld::dropEvent(Ereignis);
+    Maus_Unten = false; // the drag has swallowed the release
+    Bewegung_Melden();
 }
 
 // --- zoom ---
@@ -191,9 +221,10 @@ void Quelltext_Feld::wheelEvent(QWheelEvent* Ereignis)
 {
     if (Ereignis->modifiers() != Qt::ControlModifier)
         return Text_Feld::wheelEvent(Ereignis);
-    const int Schritt = Ereignis->angleDelta().y() > 0 ? 10 : -10;
-    if (Ereignis->angleDelta().y() != 0)
-        Zoom_Setzen(Prozent_Jetzt + Schritt);
+    constexpr int Raste = 120; // eighths of a degree
+    Rad_Rest += Ereignis->angleDelta().y();
+    Zoom_Setzen(Prozent_Jetzt + Rad_Rest / Raste * 10);
+    Rad_Rest %= Raste;
     Ereignis->accept();
 }
 

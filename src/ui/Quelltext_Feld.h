@@ -37,6 +37,7 @@ protected:
     void wheelEvent(QWheelEvent* Ereignis) override;
     void resizeEvent(QResizeEvent* Ereignis) override;
     void insertFromMimeData(const QMimeData* Daten) override;
+    void dropEvent(QDropEvent* Ereignis) override;
     void changeEvent(QEvent* Ereignis) override;
 
 private:
@@ -49,6 +50,7 @@ private:
     QFont    Grund{};
     int      Prozent_Jetzt = 100;
     bool     Bewegt        = false; // the selection changed, and the logic doesn't know it yet
+    int      Rad_Rest      = 0;     // of a wheel turned less than a notch
     bool     Maus_Unten    = false; // a message must not come between press and release
 };
 

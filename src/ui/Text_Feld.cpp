@@ -252,7 +252,7 @@ std::string Text_Feld::Auswahl_Text_UTF8() const
 }
 
 // What is inserted takes the colour of the character ahead of it, or of the first one replaced.
-void Text_Feld::Ersetzen(const QString& Neuer)
+void Text_Feld::Auswahl_Tauschen(const QString& Neuer)
 {
     const Textstelle_T Alt    = Auswahl();
     const std::int32_t Farbe  = Farbe_An(Alt.Laenge > 0 ? Alt.Anfang : Alt.Anfang - 1);
@@ -261,9 +261,16 @@ void Text_Feld::Ersetzen(const QString& Neuer)
     setTextCursor(Zeiger);
 }
 
-void Text_Feld::Auswahl_Ersetzen(std::string_view Neuer) { Ersetzen(Qt_Aus_1252(Neuer)); }
+void Text_Feld::Auswahl_Ersetzen(std::string_view Neuer) { Auswahl_Tauschen(Qt_Aus_1252(Neuer)); }
 
-void Text_Feld::Auswahl_Ersetzen_UTF8(std::string_view Neuer) { Ersetzen(Qt_Text(Neuer)); }
+void Text_Feld::Ersetzen(Textstelle_T Alt, std::string_view Neuer)
+{
+    const std::int32_t Farbe = Farbe_An(Alt.Laenge > 0 ? Alt.Anfang : Alt.Anfang - 1);
+    QTextCursor Zeiger = Stueck(Alt.Anfang, Alt.Laenge); // the control's own one is moved along
+    Zeiger.insertText(Ohne_Fremde_Trenner(Qt_Aus_1252(Neuer)), Format_Fuer(Farbe));
+}
+
+void Text_Feld::Auswahl_Ersetzen_UTF8(std::string_view Neuer) { Auswahl_Tauschen(Qt_Text(Neuer)); }
 
 // --- colours ---
 
@@ -393,6 +400,16 @@ void Text_Feld::changeEvent(QEvent* Ereignis)
     QPlainTextEdit::changeEvent(Ereignis);
     if (Ereignis->type() == QEvent::ApplicationPaletteChange && !Palette_Wird_Gesetzt)
         Palette_Setzen();
+}
+
+// Shift+Enter would put in a line separator, which ends no line of a source.
+void Text_Feld::keyPressEvent(QKeyEvent* Ereignis)
+{
+    const bool Enter = Ereignis->key() == Qt::Key_Return || Ereignis->key() == Qt::Key_Enter;
+    if (!Enter || !(Ereignis->modifiers() & Qt::ShiftModifier))
+        return QPlainTextEdit::keyPressEvent(Ereignis);
+    QKeyEvent Schlicht(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    QPlainTextEdit::keyPressEvent(&Schlicht);
 }
 
 // --- files dropped on it belong to the main window ---

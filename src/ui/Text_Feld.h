@@ -30,6 +30,7 @@ public:
     Textstelle_T     Auswahl() const override;
     std::string      Auswahl_Text() const override;
     void             Auswahl_Ersetzen(std::string_view Neuer) override;
+    void             Ersetzen(Textstelle_T Alt, std::string_view Neuer) override;
     void             Auswahl_Faerben(std::int32_t Farbe) override;
     void             Faerben(std::span<const Farbstelle_T> Stellen) override;
     std::int32_t     Farbe_An(std::int64_t Stelle) const override;
@@ -50,6 +51,7 @@ signals:
 
 protected:
     void changeEvent(QEvent* Ereignis) override;
+    void keyPressEvent(QKeyEvent* Ereignis) override;
     void dragEnterEvent(QDragEnterEvent* Ereignis) override;
     void dragMoveEvent(QDragMoveEvent* Ereignis) override;
     bool canInsertFromMimeData(const QMimeData* Daten) const override;
@@ -64,7 +66,7 @@ private:
     void            Spiegel_Nachfuehren(int Stelle, int Entfernt, int Dazu);
     std::string     Spiegel_Stueck(int Anfang, int Ende);
     void            Farben_Nachfuehren(int Anfang, int Ende, std::int64_t Verschiebung);
-    void            Ersetzen(const QString& Neuer);
+    void            Auswahl_Tauschen(const QString& Neuer);
     QTextCursor     Stueck(std::int64_t Anfang, std::int64_t Laenge) const;
     QTextCharFormat Format_Fuer(std::int32_t Farbe) const;
     void            Farben_Neu_Zeigen();

@@ -82,8 +82,8 @@ int main(int argc, char** argv)
 {
     if (Auskunft_Geben(argc, argv))
         return 0;
-    QApplication::setApplicationName(QStringLiteral("varnholt"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Varnholt"));
+    // No display name: Qt would put it behind every window title.
+    QApplication::setApplicationName(QStringLiteral("Varnholt"));
     QApplication::setDesktopFileName(QStringLiteral("varnholt"));
     QApplication Anwendung(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -458,8 +458,8 @@ TEST_F(Einstellungen, unknown_settings_are_kept_in_their_order)
 {
     const std::string Text = Zu_Text(Volle_Datei());
     EXPECT_EQ(Einstellungen_Lesen(Text + "Neues=1\r\nZoom=150\r\nAnderes=a=b\r\n"), 0);
-    EXPECT_EQ(Geschriebene_Zeile(145), "Neues=1");
-    EXPECT_EQ(Geschriebene_Zeile(146), "Anderes=a=b");
+    EXPECT_EQ(Geschriebene_Zeile(146), "Neues=1");
+    EXPECT_EQ(Geschriebene_Zeile(147), "Anderes=a=b");
 }
 
 TEST_F(Einstellungen, lines_behind_that_are_no_settings_go)
@@ -467,7 +467,7 @@ TEST_F(Einstellungen, lines_behind_that_are_no_settings_go)
     const std::string Text = Zu_Text(Volle_Datei());
     EXPECT_EQ(Einstellungen_Lesen(Text + "Unfug\r\n=3\r\n\r\n" + std::string(5000, 'n') + "=1\r\n"),
               3);
-    EXPECT_EQ(In_Zeilen(Einstellungen_Schreiben()).size(), 144u);
+    EXPECT_EQ(In_Zeilen(Einstellungen_Schreiben()).size(), 145u);
 }
 
 TEST_F(Einstellungen, at_most_100_unknown_settings_are_kept)

@@ -332,7 +332,6 @@ void Stimmig()
     RC_ASSERT(H.Ende() <= std::max(1, s.Laenge(Hex_Mass)));
     RC_ASSERT(A.Ende() <= std::max(1, s.Laenge(AscII_Mass)));
     RC_ASSERT(H.Anfang % 3 != 2 && A.Anfang % 18 < 16);
-    RC_ASSERT(Hex_Daten[524288] == 0xFF);
 }
 
 RC_GTEST_FIXTURE_PROP(Hexablage, any_walk_of_keys_mouse_and_window_keeps_page_and_image_in_step, ())
@@ -341,7 +340,7 @@ RC_GTEST_FIXTURE_PROP(Hexablage, any_walk_of_keys_mouse_and_window_keeps_page_an
     Seite(*rc::gen::element(0, 100, 32740, 32760), *rc::gen::inRange(-1, 25));
     Ablage.Inhalt    = "12 34 5";
     const auto Folge = *rc::gen::container<std::vector<std::pair<int, int>>>(
-        60, rc::gen::pair(rc::gen::inRange(0, 12), rc::gen::inRange(0, 400)));
+        15, rc::gen::pair(rc::gen::inRange(0, 12), rc::gen::inRange(0, 400)));
     for (const auto& [Was, Wert] : Folge) {
         const bool Hex   = Wert % 2 == 0;
         Hex_Aktives_Feld = Hex ? Feld_Hex : Feld_AscII;

@@ -923,9 +923,9 @@ TEST_F(Quelltext_Test, Activation_makes_the_editor_the_active_window_and_readies
     Sprache = "D";
     Edit_Activate();
     EXPECT_EQ(Werkzeug(21).Hinweis, "Assemblieren");
-    Sprache = "X";
+    Sprache = "X"; // from a damaged settings file
     Edit_Activate();
-    EXPECT_EQ(Werkzeug(21).Hinweis, "Assemblieren");
+    EXPECT_EQ(Werkzeug(21).Hinweis, "Assemble");
 }
 
 TEST_F(Quelltext_Test, Deactivation_keeps_the_place_of_the_window)

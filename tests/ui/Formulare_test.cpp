@@ -306,7 +306,7 @@ TEST_F(Abfrage_Test, its_buttons_stand_in_both_languages)
         Zeigen(Form);
         EXPECT_EQ(Teil<QPushButton>(Form, "OK")->text(), QStringLiteral("OK"));
         EXPECT_EQ(Teil<QPushButton>(Form, "Abbrechen")->text(),
-                  Deutsch ? QStringLiteral("Abbrechen") : QStringLiteral("Cancel"));
+                  Deutsch ? QStringLiteral("Abbrechen") : QStringLiteral("Abort"));
         EXPECT_TRUE(Teil<QRadioButton>(Form, "Bereich1")
                         ->text()
                         .contains(Deutsch ? QStringLiteral("Hälfte") : QStringLiteral("half")));

@@ -120,6 +120,7 @@ protected:
     // The window, built but not yet started.
     void Bauen()
     {
+        Fenster.reset(); // the old world goes before the new one comes
         Fenster = std::make_unique<MDI>();
         Fenster->Uhr_Stellen([this] { return Sekunden += 1; });
     }
@@ -149,6 +150,10 @@ protected:
     // Keys to the widget that has the focus, as a user's go.
     void Taste(Qt::Key Welche, Qt::KeyboardModifiers Mit = Qt::NoModifier)
     {
+        if (QApplication::activeWindow() != Fenster.get()) { // no window manager gives it back
+            Fenster->activateWindow();
+            QApplication::processEvents();
+        }
         QWidget* Ziel = Fenster->focusWidget() != nullptr ? Fenster->focusWidget() : Fenster.get();
         QTest::keyClick(Ziel, Welche, Mit);
         QApplication::processEvents();
