@@ -63,6 +63,9 @@ public:
     // Whose seconds the logic sees; a test brings a clock of its own.
     void Uhr_Stellen(std::function<double()> Uhr) { Ereignisse.Uhr = std::move(Uhr); }
 
+    // How the program ends; a test goes on behind it.
+    void Ende_Setzen(std::function<void()> Neues) { Ende = std::move(Neues); }
+
 signals:
     void Start_Gezeigt(); // the splash stands on the screen
 
@@ -107,6 +110,7 @@ private:
 
     std::array<Kindfenster*, 11>            Kinder{};    // by window number; null: still to come
     std::array<std::unique_ptr<QWidget>, 3> Formulare{}; // Start, Erststart, Abfrage_Modus
+    std::function<void()>                   Ende{};      // empty: the event loop is left
     QPointer<QWidget> Fokus_Vorher{}; // who had the focus when the windows were disabled
     int               Aktives_Kind  = 0;
     bool              Befehl_Laeuft = false;

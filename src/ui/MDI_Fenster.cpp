@@ -242,7 +242,10 @@ void MDI::Programm_Beenden()
 {
     Beendet = true;
     hide();
-    QApplication::exit(0);
+    if (Ende)
+        Ende();
+    else
+        QApplication::exit(0);
 }
 
 } // namespace varnholt

@@ -123,6 +123,7 @@ protected:
         Fenster.reset(); // the old world goes before the new one comes
         Fenster = std::make_unique<MDI>();
         Fenster->Uhr_Stellen([this] { return Sekunden += 1; });
+        Fenster->Ende_Setzen([this] { Beendet = true; });
     }
     // A start with settings of a complete run in that mode and language.
     void Starten(const std::string& In_Sprache_ = "E", int In_Modus = Modus_MC)
@@ -172,6 +173,7 @@ protected:
 
     QTemporaryDir        Ordner{};
     std::string          Heim{};
+    bool                 Beendet  = false; // the program would be gone
     double               Sekunden = 36000;
     std::unique_ptr<MDI> Fenster{};
     Beantworter          Antworten{};

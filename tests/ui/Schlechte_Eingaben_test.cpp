@@ -142,6 +142,7 @@ protected:
         QApplication::sendEvent(Fenster.get(), &Hinein);
         QDropEvent Fallen(QPointF(10, 10), Qt::CopyAction, &Daten, Qt::LeftButton, {});
         QApplication::sendEvent(Fenster.get(), &Fallen);
+        QApplication::processEvents(); // it is opened when the drop is over
     }
     // The next window is the question of a partial load, answered so.
     void Abfrage_Beantworten(const char* Bereich, const char* Knopf)
