@@ -8,6 +8,7 @@
 #include <QContextMenuEvent>
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QPainter>
 
 #include <algorithm>
@@ -82,6 +83,12 @@ void Hex_Spalte::Masse_Nehmen()
     }
     Schrift.setLetterSpacing(QFont::AbsoluteSpacing, Breite - Vorschub);
     setFont(Schrift);
+    Roh = QRawFont::fromFont(Schrift);
+    for (std::size_t i = 0; i < Glyphen.size(); ++i) {
+        const auto Nummern =
+            Roh.glyphIndexesForString(QChar(Zeichen_Aus_1252(static_cast<char>(i))));
+        Glyphen[i] = Nummern.isEmpty() ? 0 : Nummern.constFirst();
+    }
 }
 
 int Hex_Spalte::Breite_Der_Spalte() const { return Sichtbar * Breite + 2 * Spalten_Rand; }
@@ -109,21 +116,46 @@ Hex_Farben_T Hex_Spalte::Farben() const
     return f;
 }
 
-void Hex_Spalte::Text_Zeichnen(QPainter&      Maler,
-                               int            Stelle,
-                               const QString& Stueck,
-                               const QColor&  Farbe)
+void Hex_Spalte::Text_Zeichnen(QPainter&        Maler,
+                               int              Stelle,
+                               std::string_view Stueck,
+                               const QColor&    Farbe)
 {
-    const QRect z = Zelle(Stelle);
-    Maler.setPen(Farbe);
-    Maler.drawText(QPoint(z.left(), z.top() + Linie), Stueck);
+    auto l = std::find_if(
+        Laeufe.begin(), Laeufe.end(), [&](const Lauf_T& i) { return i.Farbe == Farbe; });
+    if (l == Laeufe.end())
+        l = Laeufe.insert(l, Lauf_T{Farbe});
+    for (const char Zeichen : Stueck) {
+        const QRect   z     = Zelle(Stelle++);
+        const quint32 Glyph = Glyphen[static_cast<std::uint8_t>(Zeichen)];
+        if (Glyph != 0) {
+            l->Glyphen.append(Glyph);
+            l->Orte.append(QPointF(z.left(), z.top() + Linie));
+        } else { // another font helps out
+            Maler.setPen(Farbe);
+            Maler.drawText(QPoint(z.left(), z.top() + Linie), QChar(Zeichen_Aus_1252(Zeichen)));
+        }
+    }
+}
+
+void Hex_Spalte::Laeufe_Zeichnen(QPainter& Maler)
+{
+    for (Lauf_T& l : Laeufe) {
+        QGlyphRun Lauf;
+        Lauf.setRawFont(Roh);
+        Lauf.setGlyphIndexes(l.Glyphen);
+        Lauf.setPositions(l.Orte);
+        Maler.setPen(l.Farbe);
+        Maler.drawGlyphRun(QPointF(), Lauf);
+    }
+    Laeufe.clear();
 }
 
 void Hex_Spalte::Zeile_Zeichnen(QPainter& Maler, int Erste_Stelle, const Hex_Farben_T& f)
 {
     const auto Stueck = std::string_view(*Text).substr(static_cast<std::size_t>(Erste_Stelle),
                                                        static_cast<std::size_t>(Sichtbar));
-    Text_Zeichnen(Maler, Erste_Stelle, Qt_Aus_1252(Stueck), f.Text);
+    Text_Zeichnen(Maler, Erste_Stelle, Stueck, f.Text);
 }
 
 void Hex_Spalte::Rahmen_Zeichnen(QPainter& Maler, int Stelle, const QColor& Farbe)
@@ -142,6 +174,7 @@ void Hex_Spalte::paintEvent(QPaintEvent* Ereignis)
     const int Letzte = std::min(Zeilen - 1, Ereignis->rect().bottom() / Hoehe);
     for (int r = Erste; r <= Letzte; ++r)
         Zeile_Zeichnen(Maler, r * Zeile, f);
+    Laeufe_Zeichnen(Maler);
 }
 
 void Hex_Spalte::changeEvent(QEvent* Ereignis)
@@ -223,7 +256,7 @@ void Hex_Gitter::Zeile_Zeichnen(QPainter& Maler, int Erste_Stelle, const Hex_Far
         if (Ohne_Bild(Stueck.front()))
             Rahmen_Zeichnen(Maler, s, Farbe == f.Text ? f.Blass : Farbe);
         else
-            Text_Zeichnen(Maler, s, Qt_Aus_1252(Stueck), Farbe);
+            Text_Zeichnen(Maler, s, Stueck, Farbe);
     }
 }
 

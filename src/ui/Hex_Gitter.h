@@ -5,10 +5,15 @@
 #include "editors/Hexedit.h"
 
 #include <QColor>
+#include <QList>
+#include <QPointF>
+#include <QRawFont>
 #include <QWidget>
 
 #include <array>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace varnholt {
 
@@ -46,8 +51,8 @@ protected:
     // Colours of a row's text; Stellen are offsets in the text.
     virtual Hex_Farben_T Farben() const;
     virtual void         Zeile_Zeichnen(QPainter& Maler, int Erste_Stelle, const Hex_Farben_T& f);
-    // Draws Text from that offset on in one colour.
-    void Text_Zeichnen(QPainter& Maler, int Stelle, const QString& Stueck, const QColor& Farbe);
+    // Puts characters on the page; all of one colour are drawn together when the page is complete.
+    void Text_Zeichnen(QPainter& Maler, int Stelle, std::string_view Stueck, const QColor& Farbe);
     // A small frame, for a character without a picture.
     void Rahmen_Zeichnen(QPainter& Maler, int Stelle, const QColor& Farbe);
     int  Stelle_An(const QPoint& Ort) const; // offset of the cell there, drawn into the page
@@ -56,15 +61,26 @@ protected:
     bool Im_Raster(char Zeichen) const { return Raster[static_cast<std::uint8_t>(Zeichen)]; }
 
 private:
+    void Laeufe_Zeichnen(QPainter& Maler);
+
+    // Glyphs of one colour and their places.
+    struct Lauf_T {
+        QColor         Farbe{};
+        QList<quint32> Glyphen{};
+        QList<QPointF> Orte{};
+    };
     void Masse_Nehmen();
 
-    const std::string*    Text;
-    int                   Zeile;
-    int                   Sichtbar;
-    int                   Breite = 1;
-    int                   Hoehe  = 1;
-    int                   Linie  = 0; // base line of the letters in their row
-    std::array<bool, 256> Raster{};   // the font has the character, as wide as all others
+    const std::string*       Text;
+    int                      Zeile;
+    int                      Sichtbar;
+    int                      Breite = 1;
+    int                      Hoehe  = 1;
+    int                      Linie  = 0; // base line of the letters in their row
+    QRawFont                 Roh{};      // the font as the glyphs' numbers mean it
+    std::array<quint32, 256> Glyphen{};  // by character; 0: the font has none
+    std::vector<Lauf_T>      Laeufe{};   // of the page that is being drawn
+    std::array<bool, 256>    Raster{};   // the font has the character, as wide as all others
 };
 
 // What a pane hands its events to, and what it shows as marked.
