@@ -30,6 +30,7 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QLibraryInfo>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
@@ -185,12 +186,27 @@ void MDI::Nachziehen()
 {
     if (Beendet)
         return;
+    Qt_Texte_Waehlen();
     Leisten->Nachziehen();
     Hex->Nachziehen();
     Spr->Nachziehen();
     const QTextCursor c = Edit->textCursor();
     Zeile->Nachziehen(c.blockNumber() + 1, c.positionInBlock() + 1);
     Waechter->Nachziehen();
+}
+
+// The font and the colour dialog are Qt's: they follow the language where Qt's translations are
+// installed, and stay English where they are not.
+void MDI::Qt_Texte_Waehlen()
+{
+    if (Qt_Sprache == Sprache)
+        return;
+    Qt_Sprache = Sprache;
+    QCoreApplication::removeTranslator(&Qt_Deutsch);
+    if (Sprache == "D" && (!Qt_Deutsch.isEmpty() ||
+                           Qt_Deutsch.load(QStringLiteral("qtbase_de"),
+                                           QLibraryInfo::path(QLibraryInfo::TranslationsPath))))
+        QCoreApplication::installTranslator(&Qt_Deutsch);
 }
 
 void MDI::Kind_Aktiviert(QMdiSubWindow* Neues)

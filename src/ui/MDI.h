@@ -8,6 +8,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QTranslator>
 
 #include <array>
 #include <functional>
@@ -89,6 +90,7 @@ private:
     void Platz_Merken();
     void Auf_Groesse_Warten();
     void Fokus_Zurueck();
+    void Qt_Texte_Waehlen();
     void Bearbeiten_Menue(const QPoint& Ort);
 
     Qt_Box        Box{};
@@ -98,15 +100,17 @@ private:
     Qt_Schale     Schale_Qt{};
     Status_Dialog Status;
 
-    QMdiArea*        Flaeche  = nullptr;
-    Menueleiste*     Leisten  = nullptr;
-    Statuszeile*     Zeile    = nullptr;
-    Dateiwaechter*   Waechter = nullptr;
-    Fremd_Hinweis*   Fremd    = nullptr; // the bar that tells of another program's change
-    Quelltext_Feld*  Edit     = nullptr;
-    Hexedit_Fenster* Hex      = nullptr;
-    Spr_Fenster*     Spr      = nullptr;
-    Notiz_Feld*      Notiz    = nullptr;
+    QMdiArea*        Flaeche = nullptr;
+    QTranslator      Qt_Deutsch{}; // Qt's own dialogs; in use while the language is German
+    std::string      Qt_Sprache = "E";
+    Menueleiste*     Leisten    = nullptr;
+    Statuszeile*     Zeile      = nullptr;
+    Dateiwaechter*   Waechter   = nullptr;
+    Fremd_Hinweis*   Fremd      = nullptr; // the bar that tells of another program's change
+    Quelltext_Feld*  Edit       = nullptr;
+    Hexedit_Fenster* Hex        = nullptr;
+    Spr_Fenster*     Spr        = nullptr;
+    Notiz_Feld*      Notiz      = nullptr;
 
     std::array<Kindfenster*, 11>            Kinder{};    // by window number; null: still to come
     std::array<std::unique_ptr<QWidget>, 3> Formulare{}; // Start, Erststart, Abfrage_Modus

@@ -222,6 +222,24 @@ QString Filter_Endung(const QString& Filter)
     return Filter.mid(Anfang, Ende - Anfang);
 }
 
+namespace {
+
+// Qt's own texts of the dialog, in the interface language and not in the desktop's.
+void Beschriften(QFileDialog& Dialog, bool Speichern)
+{
+    const auto Setzen = [&Dialog](QFileDialog::DialogLabel Feld, const Text_Paar& Text) {
+        Dialog.setLabelText(Feld, Qt_Text(In_Sprache(Text)));
+    };
+    Setzen(QFileDialog::LookIn, {"Suchen in:", "Look in:"});
+    Setzen(QFileDialog::FileName, {"Datei&name:", "File &name:"});
+    Setzen(QFileDialog::FileType, {"Dateityp:", "Files of type:"});
+    Setzen(QFileDialog::Accept,
+           Speichern ? Text_Paar{"&Speichern", "&Save"} : Text_Paar{"Ö&ffnen", "&Open"});
+    Setzen(QFileDialog::Reject, {"Abbrechen", "Cancel"});
+}
+
+} // namespace
+
 void Qt_Dialoge::Datei_Waehlen(Dateiwahl_T& Wahl)
 {
     const Ohne_Wartezeiger Zeiger;
@@ -230,6 +248,7 @@ void Qt_Dialoge::Datei_Waehlen(Dateiwahl_T& Wahl)
     Dialog.setObjectName(QStringLiteral("CommonDialog"));
     Dialog.setWindowTitle(Qt_Text(In_Sprache(
         Wahl.Speichern ? Text_Paar{"Speichern unter", "Save As"} : Text_Paar{"Öffnen", "Open"})));
+    Beschriften(Dialog, Wahl.Speichern);
     Dialog.setAcceptMode(Wahl.Speichern ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     Dialog.setFileMode(Wahl.Speichern ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     Dialog.setOption(QFileDialog::DontConfirmOverwrite, Wahl.Speichern);
