@@ -9,7 +9,7 @@
 #include "editors/Hexablage.h"
 #include "editors/Quelltext.h"
 #include "editors/Quelltext_Sperre.h"
-#include "files/Zeilenleser.h"
+#include "files/Textdatei.h"
 
 namespace varnholt {
 namespace {
@@ -114,19 +114,6 @@ void In_Textfeld_Einfuegen(Textfeld* Feld)
 }
 
 } // namespace
-
-std::string Mit_CR_LF(std::string_view Text)
-{
-    std::string Ziel;
-    Ziel.reserve(Text.size());
-    Zeilenleser Leser(Text);
-    for (Textzeile_T Zeile; Leser.Weiter(Zeile);) {
-        Ziel += Zeile.Inhalt;
-        if (!Zeile.Ende.empty())
-            Ziel += CRLF;
-    }
-    return Ziel;
-}
 
 void MNU_Kopieren_Click()
 {

@@ -4,7 +4,6 @@
 #include "core/platform.h"
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace varnholt {
@@ -14,8 +13,5 @@ inline struct Ablage_T {
     std::string               Gemerkter_Text{};  // UTF-8, lines ended by CR LF
     std::vector<Farbstelle_T> Gemerkte_Farben{}; // from the beginning of the text on, ascending
 } Ablage;
-
-// Text with every line ended by CR LF: other programs end theirs by LF or CR too.
-std::string Mit_CR_LF(std::string_view Text);
 
 } // namespace varnholt

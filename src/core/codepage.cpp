@@ -40,16 +40,6 @@ int Sequenz(std::string_view t, std::size_t i, char32_t& Zeichen)
     return zu_lang || ersatz || Zeichen > 0x10FFFF ? 0 : n;
 }
 
-char Zu_1252(char32_t z)
-{
-    if (z < 0x80 || (z >= 0xA0 && z < 0x100))
-        return static_cast<char>(static_cast<std::uint8_t>(z));
-    const auto p = std::find(Unicode_ab_80.begin(), Unicode_ab_80.end(), z);
-    if (p == Unicode_ab_80.end())
-        return '?';
-    return static_cast<char>(static_cast<std::uint8_t>(0x80 + (p - Unicode_ab_80.begin())));
-}
-
 void Anhaengen_UTF8(std::string& Ziel, char32_t z)
 {
     const auto Folge = [](char32_t v) { return static_cast<char>(static_cast<std::uint8_t>(v)); };
@@ -66,6 +56,22 @@ void Anhaengen_UTF8(std::string& Ziel, char32_t z)
 }
 
 } // namespace
+
+char16_t Zeichen_Aus_1252(char Zeichen)
+{
+    const std::uint8_t b = Byte(Zeichen);
+    return b >= 0x80 && b < 0xA0 ? static_cast<char16_t>(Unicode_ab_80[b - 0x80u]) : char16_t{b};
+}
+
+char Zeichen_Nach_1252(char32_t z)
+{
+    if (z < 0x80 || (z >= 0xA0 && z < 0x100))
+        return static_cast<char>(static_cast<std::uint8_t>(z));
+    const auto p = std::find(Unicode_ab_80.begin(), Unicode_ab_80.end(), z);
+    if (p == Unicode_ab_80.end())
+        return '?';
+    return static_cast<char>(static_cast<std::uint8_t>(0x80 + (p - Unicode_ab_80.begin())));
+}
 
 void Gross_In(std::string_view Text, std::string& Ziel)
 {
@@ -106,7 +112,7 @@ std::string Aus_UTF8(std::string_view Text)
     for (std::size_t i = 0; i < Text.size();) {
         char32_t  z = 0;
         const int n = Sequenz(Text, i, z);
-        Ziel += n == 0 ? '?' : Zu_1252(z);
+        Ziel += n == 0 ? '?' : Zeichen_Nach_1252(z);
         i += n == 0 ? 1 : static_cast<std::size_t>(n);
     }
     return Ziel;

@@ -49,6 +49,11 @@ inline bool Beginnt_Ohne_Fall(std::string_view Text, std::string_view Anfang_Gro
     return true;
 }
 
+// One character: its Unicode number (below FFFFh), and its byte; `?` for one that the code page
+// doesn't have. The five bytes without a character are the C1 controls of their number.
+char16_t Zeichen_Aus_1252(char Zeichen);
+char     Zeichen_Nach_1252(char32_t Zeichen);
+
 // Well-formed UTF-8 (no overlong forms, no surrogates, nothing above 10FFFFh).
 bool Ist_UTF8(std::string_view Text);
 // From UTF-8; a character outside Windows-1252 becomes `?`, and so does each byte of a malformed

@@ -8,12 +8,21 @@
 #include "files/Dateimeldungen.h"
 #include "files/Dateinamen.h"
 
+#include <filesystem>
+
 namespace varnholt {
 namespace {
 
+// The document's name without its extension, and another one. A name that has no room for an
+// extension keeps all of itself: its last four characters would reach into the folder.
 std::string Neben_Dem_Dokument(std::string_view Endung)
 {
-    return std::string(Ohne_Letzte_Zeichen(Datei_Name, 4)).append(Endung);
+    constexpr std::size_t  Endung_Laenge = 4;
+    const std::string      Name          = std::filesystem::path(Datei_Name).filename().string();
+    const std::string_view Stamm         = Name.size() > Endung_Laenge
+                                               ? Ohne_Letzte_Zeichen(Datei_Name, Endung_Laenge)
+                                               : std::string_view(Datei_Name);
+    return std::string(Stamm).append(Endung);
 }
 
 bool Vorhanden(const std::string& Name)

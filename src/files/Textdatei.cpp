@@ -94,17 +94,11 @@ std::string Mit_CRLF(std::string_view Text, const Enden_T& Zahl)
 {
     if (Zahl.LF == 0 && Zahl.CR == 0)
         return std::string(Text);
+    if (Zahl.CR != 0 || Zahl.CR_LF != 0)
+        return Mit_CR_LF(Text);
     std::string Ziel;
-    Ziel.reserve(Text.size() + Zahl.LF + Zahl.CR);
-    if (Zahl.CR == 0 && Zahl.CR_LF == 0)
-        return Aus_LF(Text, std::move(Ziel));
-    Zeilenleser Leser(Text);
-    for (Textzeile_T Zeile; Leser.Weiter(Zeile);) {
-        Ziel += Zeile.Inhalt;
-        if (!Zeile.Ende.empty())
-            Ziel += CRLF;
-    }
-    return Ziel;
+    Ziel.reserve(Text.size() + Zahl.LF);
+    return Aus_LF(Text, std::move(Ziel));
 }
 
 std::vector<Textzeile_T> In_Zeilen(std::string_view t)
@@ -213,6 +207,19 @@ const char* Umgebung(const char* Name)
 }
 
 } // namespace
+
+std::string Mit_CR_LF(std::string_view Text)
+{
+    std::string Ziel;
+    Ziel.reserve(Text.size() + Text.size() / 16);
+    Zeilenleser Leser(Text);
+    for (Textzeile_T Zeile; Leser.Weiter(Zeile);) {
+        Ziel += Zeile.Inhalt;
+        if (!Zeile.Ende.empty())
+            Ziel += CRLF;
+    }
+    return Ziel;
+}
 
 Textdatei_T Text_Entschluesseln(std::string Bytes)
 {

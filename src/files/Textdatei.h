@@ -46,4 +46,7 @@ Kodierung Kodierung_Nach_Locale(std::string_view Locale);
 // The template of a new file: the encoding of the user's locale (environment), lines end in CR LF.
 Textdatei_T Neue_Textdatei();
 
+// Text with every line ended by CR LF, whatever ended it before.
+std::string Mit_CR_LF(std::string_view Text);
+
 } // namespace varnholt

@@ -1,7 +1,7 @@
-// Texts at the border between the logic and Qt: UTF-8 and Windows-1252 to QString and back, the
-// colours of the field, and key translation helpers stay out of here.
+// What crosses the border between the logic and Qt: texts (UTF-8 and Windows-1252), colours, fonts.
 #pragma once
 
+#include "core/codepage.h"
 #include "core/platform.h"
 
 #include <QColor>
@@ -22,10 +22,8 @@ inline std::string Nach_Std(const QString& Text) { return Text.toStdString(); }
 // A message text: CR LF become line feeds.
 QString Meldungs_Text(std::string_view UTF8);
 
-// One byte of Windows-1252 as a UTF-16 unit, and back; a unit outside the code page becomes `?`.
-// One to one, so that positions stay.
-char16_t    Zeichen_Aus_1252(char Zeichen);
-char        Zeichen_Nach_1252(char16_t Zeichen);
+// Windows-1252 to UTF-16 and back, unit by unit, so that positions stay; a unit that the code page
+// doesn't have becomes `?`.
 QString     Qt_Aus_1252(std::string_view Text);
 std::string Nach_1252(QStringView Text);
 

@@ -1,6 +1,8 @@
 // Cut, copy, paste and delete in the source text and the notes, and the way to the hex editor.
 #include "core/clipboard.h"
 
+#include "files/Textdatei.h"
+
 #include "core/commands.h"
 #include "core/menu.h"
 #include "core/settings.h"

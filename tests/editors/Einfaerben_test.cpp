@@ -207,11 +207,12 @@ TEST_F(Fortschritt_Test, The_progress_is_shown_in_German)
               std::vector<std::string>{" Einfärben der Kommentare und Sprungmarken... 100%"});
 }
 
-TEST_F(Fortschritt_Test, Without_a_language_there_is_no_text_but_there_are_colours)
+TEST_F(Fortschritt_Test, Without_a_language_the_text_is_the_English_one)
 {
-    Sprache = "X";
+    Sprache = "X"; // from a damaged settings file
     EXPECT_EQ(Gefaerbt(";x"), "kk");
-    EXPECT_TRUE(Status.Texte.empty());
+    ASSERT_FALSE(Status.Texte.empty());
+    EXPECT_TRUE(Status.Texte.back().starts_with(" Colorizing the instructions... "));
 }
 
 TEST_F(Fortschritt_Test, The_event_loop_turns_at_each_slice)

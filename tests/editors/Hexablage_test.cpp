@@ -305,7 +305,7 @@ RC_GTEST_FIXTURE_PROP(Hexablage, paste_moves_and_writes_as_the_model_does, ())
     const int a       = *rc::gen::inRange(0, Letztes + 1);
     const int e       = *rc::gen::inRange(a, std::min(a + 12, Letztes + 1));
     Hex_Caret(3 * a, 3 * (e - a) + 2);
-    Ablage.Inhalt               = Ablage_Text();
+    Ablage.Inhalt               = "0" + Ablage_Text(); // an empty one changes nothing
     const auto [C, Geschrieben] = Gelesen(Ablage.Inhalt, Hex);
     Modell m                    = Abbild();
     m.Einfuegen(16 * Hexedit.Scroll + a, e == a ? 0 : e - a + 1, C, Geschrieben);

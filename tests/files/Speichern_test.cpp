@@ -294,6 +294,13 @@ TEST_F(Speichern_Welt, notes_are_saved_beside_the_document)
     Speichern("a.bin");
     EXPECT_EQ(Bytes_Von(Ordner.Name("a.not")), "solder\r\n");
 }
+TEST_F(Speichern_Welt, notes_of_a_short_name_stay_in_its_folder)
+{
+    Notiz.Inhalt = "solder\r\n";
+    Speichern("abc");
+    EXPECT_EQ(Bytes_Von(Ordner.Name("abc.not")), "solder\r\n");
+    EXPECT_FALSE(Datei_Geaendert);
+}
 TEST_F(Speichern_Welt, empty_notes_leave_an_existing_note_file_alone)
 {
     Ordner.Anlegen("a.not", "old");
