@@ -8,6 +8,7 @@
 #include "programmer/Aufzeichnung.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Geraete.h"
+#include "programmer/Port_Einrichtung.h"
 #include "programmer/Port_direkt.h"
 #include "programmer/Port_ppdev.h"
 #include "programmer/Simulierte_Boards.h"
@@ -17,8 +18,6 @@
 
 namespace varnholt {
 namespace {
-
-constexpr std::int32_t Hoechste_Adresse = 0xFFF8; // eight registers must have room above it
 
 int Spur_Fehlt()
 {
@@ -56,7 +55,7 @@ int Port_Wahl::Direkt(const std::string& Adresse)
     if (Ziffern.starts_with("0x") || Ziffern.starts_with("0X"))
         Ziffern.remove_prefix(2);
     const std::int32_t Wert = Ziffern.empty() ? -1 : Hex_zu_Wert(Ziffern);
-    if (Wert <= 0 || Wert > Hoechste_Adresse)
+    if (Wert <= 0 || Wert > Port_Basis_Hoechste)
         return Falsche_Zeile({"io: braucht die Basisadresse eines Ports, wie io:378",
                               "io: wants the base address of a port, as io:378"});
     Port_Basis     = Wert;

@@ -66,7 +66,7 @@ void Werkzeuge_Beschriften()
 {
     for (const Werkzeug_Eintrag_T& w : Werkzeug_Tabelle)
         Werkzeug(w.Position).Hinweis = Fester_Text({w.D, w.E});
-    Werkzeug(Werkzeug_Umschalten).Hinweis = Umschalten_Hinweis(Modus);
+    Umschalter_Beschriften(Modus);
 }
 
 void Fenster_Beschriften()
@@ -100,6 +100,13 @@ std::string_view Umschalten_Hinweis(int Modus_Jetzt)
 {
     return Modus_Jetzt == Modus_Hex ? Fester_Text({"Disassemblieren", "Disassemble"})
                                     : Fester_Text({"Assemblieren", "Assemble"});
+}
+
+void Umschalter_Beschriften(int Modus_Jetzt)
+{
+    const std::string_view Text = Umschalten_Hinweis(Modus_Jetzt);
+    if (!Text.empty())
+        Werkzeug(Werkzeug_Umschalten).Hinweis = Text;
 }
 
 void IC_Titel_Zeigen()

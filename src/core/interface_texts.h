@@ -32,6 +32,8 @@ std::string_view Fester_Text(const Festes_Paar& Text);
 
 // Tool tip of the mode button: what it does next in that mode.
 std::string_view Umschalten_Hinweis(int Modus_Jetzt);
+// Puts it on the button; with a language that is none the last caption stays.   sets: tool bar
+void Umschalter_Beschriften(int Modus_Jetzt);
 
 // Caption of the programmer menu, with the chosen device.   reads: Sprache, IC_Nummer   sets: menu
 void IC_Titel_Zeigen();

@@ -18,11 +18,8 @@
 namespace varnholt {
 namespace {
 
-constexpr int              Undo_Schritte_Hoechstens = Undo_Hoechstens + 1;
-constexpr int              Register_Anzahl          = 8; // ports that the driver enables
-constexpr std::int32_t     Hoechste_Adresse  = 0xFFF8;   // eight registers must have room above it
-constexpr std::uint8_t     Leitungen_In_Ruhe = 0x4A;     // data register of an idle programmer
-constexpr std::string_view Ppdev_Anfang      = "ppdev:";
+constexpr int Undo_Schritte_Hoechstens = Undo_Hoechstens + 1;
+constexpr int Register_Anzahl          = 8; // ports that the driver enables
 
 // The window of each font, by index of Schriften.
 constexpr std::array<int, Schrift_Anzahl> Schrift_Fenster{Fenster_Edit, Fenster_Spr, Fenster_Notiz};
@@ -152,26 +149,25 @@ std::string Adress_Text(std::int32_t Adresse)
 
 void Port_Art_Zeigen()
 {
-    const bool Ppdev       = Port_Art.starts_with(Ppdev_Anfang);
-    Optionen_Form.Port_Art = Ppdev              ? Port_Wahl_T::Ppdev
-                             : Port_Art == "io" ? Port_Wahl_T::Direkt
-                                                : Port_Wahl_T::Simuliert;
-    Optionen_Form.T_Geraet = Ppdev ? Port_Art.substr(Ppdev_Anfang.size()) : Ppdev_Vorgabe;
+    const bool Ppdev       = Port_Art.starts_with(Art_Ppdev);
+    Optionen_Form.Port_Art = Ppdev                    ? Port_Wahl_T::Ppdev
+                             : Port_Art == Art_Direkt ? Port_Wahl_T::Direkt
+                                                      : Port_Wahl_T::Simuliert;
+    Optionen_Form.T_Geraet = Ppdev ? Port_Art.substr(Art_Ppdev.size()) : Ppdev_Vorgabe;
 }
 
 std::string Gewaehlte_Port_Art()
 {
     switch (Optionen_Form.Port_Art) {
     case Port_Wahl_T::Ppdev:
-        return std::string(Ppdev_Anfang) + (Optionen_Form.T_Geraet.empty()
-                                                ? std::string(Ppdev_Vorgabe)
-                                                : Optionen_Form.T_Geraet);
+        return std::string(Art_Ppdev) + (Optionen_Form.T_Geraet.empty() ? std::string(Ppdev_Vorgabe)
+                                                                        : Optionen_Form.T_Geraet);
     case Port_Wahl_T::Direkt:
-        return "io";
+        return std::string(Art_Direkt);
     case Port_Wahl_T::Simuliert:
         break;
     }
-    return "sim";
+    return std::string(Art_Simuliert);
 }
 
 void Hinweisen(const Text_Paar& Text) { Plattform.Box->Hinweisen(In_Sprache(Text)); }
@@ -185,8 +181,7 @@ void Port_Art_Uebernehmen()
     Porttreiber_OK = false;
     Port_Einrichten();
     Porttreiber_Laden();
-    if (Porttreiber_OK)
-        Plattform.Port->KS_outpb(Port_Basis, Leitungen_In_Ruhe);
+    Leitungen_Ruhen();
 }
 
 // An address that can't be read goes to the driver as -1, and to the user as a notice.
@@ -195,7 +190,7 @@ void Port_Uebernehmen()
     Port_Basis = Hex_zu_Wert(Optionen_Form.T_Portadr);
     Port_Art_Uebernehmen();
     Treiber_Ergebnis = Plattform.Port->KS_enableIoRange(Port_Basis, Register_Anzahl);
-    if (Port_Basis <= 0 || Port_Basis > Hoechste_Adresse)
+    if (Port_Basis <= 0 || Port_Basis > Port_Basis_Hoechste)
         Hinweisen({"Ungültige Portadresse: " + Optionen_Form.T_Portadr,
                    "Invalid port address: " + Optionen_Form.T_Portadr});
 }

@@ -391,9 +391,7 @@ void Init_Abschliessen()
 
 void Start_Bild_Schliessen()
 {
-    constexpr std::uint8_t Ruhe = 0x4A; // the programmer's lines at rest
-    if (Porttreiber_OK)
-        Plattform.Port->KS_outpb(Port_Basis, Ruhe);
+    Leitungen_Ruhen();
     Plattform.Ereignisse->Eine_Runde();
     Plattform.Fenster->Formular_Entladen(Formular::Start);
 }

@@ -53,21 +53,11 @@ struct Zeichenpause {
     Zeichenpause& operator=(const Zeichenpause&) = delete;
 };
 
-void Ring_Leeren()
-{
-    Undo_Ende     = Hoechster_Platz();
-    Undo_Index    = 0;
-    Undo_Oben     = 1;
-    Undo_Begonnen = false;
-    Undo_Schalten(false);
-    Redo_Schalten(false);
-}
-
 // The option may have shrunk the ring: counters beyond its end are brought back into it.
 void Ring_Einpassen()
 {
     if (Undo_Index > Hoechster_Platz())
-        Ring_Leeren();
+        Undo_Ring_Neu();
     Undo_Ende = std::min(Undo_Ende, Hoechster_Platz());
 }
 
@@ -214,11 +204,19 @@ void Undo_Schritt_speichern()
 
 void Undo_Zuruecksetzen()
 {
-    Ring_Leeren();
+    Undo_Ring_Neu();
     Text_Veraendert = false;
 }
 
-void Undo_Ring_Neu() { Ring_Leeren(); }
+void Undo_Ring_Neu()
+{
+    Undo_Ende     = Hoechster_Platz();
+    Undo_Index    = 0;
+    Undo_Oben     = 1;
+    Undo_Begonnen = false;
+    Undo_Schalten(false);
+    Redo_Schalten(false);
+}
 
 void MNU_Undo_Click()
 {

@@ -132,13 +132,6 @@ void Nur_Hex_Zeigen(bool Hex)
     Menue("MNU_Load_Autosave").Sichtbar = !Hex;
 }
 
-void Umschalter_Beschriften()
-{
-    const std::string_view Text = Umschalten_Hinweis(Modus);
-    if (!Text.empty())
-        Werkzeug(Werkzeug_Umschalten).Hinweis = Text;
-}
-
 } // namespace
 
 // The side column stands right of the main window. Without the debugger its halves hold jumpmarks
@@ -235,7 +228,7 @@ void Modus_Tabelle_Anwenden()
     Menue("MNU_vergleiche_hexdaten").Aktiv = Hex;
     Menue("MNU_Debugger_Stoppunkt").Aktiv  = !Hex;
     Nur_Hex_Zeigen(Hex);
-    Umschalter_Beschriften();
+    Umschalter_Beschriften(Modus);
     if (Hex) // the editor enables them when it gets the focus
         Menue("MNU_deb_Vorbereitung").Aktiv = Werkzeug(23).Aktiv = false;
 }

@@ -70,8 +70,7 @@ void Fortschritt_Zeigen(std::size_t Prozent)
 {
     const std::string Text = In_Sprache(
         {" Einfärben der Kommentare und Sprungmarken... ", " Colorizing the instructions... "});
-    if (!Text.empty())
-        Plattform.Status->Text(Text + std::to_string(Prozent) + "%");
+    Plattform.Status->Text(Text + std::to_string(Prozent) + "%");
 }
 
 // End of the slice that begins at Anfang: behind the line in which the next whole per cent is

@@ -1,7 +1,7 @@
 // The hex editor as a window: size, scroll bar, activation.
 #include "core/commands.h"
+#include "core/interface_texts.h"
 #include "core/menu.h"
-#include "core/messages.h"
 #include "core/windows.h"
 #include "editors/Hexedit.h"
 
@@ -49,10 +49,8 @@ void Hexedit_Resize(int Pixel_Hoehe, int Zeilen_Hoehe)
 
 void Hexedit_Activate()
 {
-    Aktives_Fenster        = Fenster_Hexedit;
-    const std::string Text = In_Sprache({"Disassemblieren", "Disassemble"});
-    if (!Text.empty())
-        Werkzeug(Werkzeug_Umschalten).Hinweis = Text;
+    Aktives_Fenster = Fenster_Hexedit;
+    Umschalter_Beschriften(Modus_Hex);
     Menue("MNU_deb_Vorbereitung").Aktiv = false;
     Werkzeug(23).Aktiv                  = false;
 }

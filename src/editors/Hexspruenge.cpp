@@ -42,8 +42,6 @@ void MNU_Adresse_direkt_Click()
          "Please enter the address you want to see. You can enter the address in decimal or in "
          "hexadecimal format. Please indicate hexadecimal address with the convertional trailing "
          "'h'.\r\n Examples 255 or FFh"});
-    if (Frage.empty())
-        return;
     const std::string Text = Plattform.Box->Eingeben(Frage);
     if (Text.empty())
         return;

@@ -3,8 +3,8 @@
 #include "editors/Quelltext.h"
 
 #include "core/commands.h"
+#include "core/interface_texts.h"
 #include "core/menu.h"
-#include "core/messages.h"
 #include "core/shared_state.h"
 #include "core/undo.h"
 #include "core/windows.h"
@@ -118,8 +118,6 @@ bool Text_KeyDown(const Taste_T& Taste)
     return Befehl_Ausfuehren(Taste) || Auswahl_Entfernen(Taste);
 }
 
-// The old line counts as changed even when only its end went: it is handled once the caret's move
-// is reported.
 void Text_Ohne_Taste()
 {
     Taste_T Taste;
@@ -127,6 +125,8 @@ void Text_Ohne_Taste()
     Erste_Taste_Sichern(Taste);
 }
 
+// The old line counts as changed even when only its end went: it is handled once the caret's move
+// is reported.
 bool Text_KeyPress_Enter()
 {
     if (Debugger_Aktiv)
@@ -155,9 +155,7 @@ void Edit_Activate()
     Aktives_Fenster                     = Fenster_Edit;
     Menue("MNU_deb_Vorbereitung").Aktiv = true;
     Werkzeug(23).Aktiv                  = true;
-    const std::string Hinweis           = In_Sprache({"Assemblieren", "Assemble"});
-    if (!Hinweis.empty())
-        Werkzeug(Werkzeug_Umschalten).Hinweis = Hinweis;
+    Umschalter_Beschriften(Modus_MC);
 }
 
 void Edit_Deactivate() { Fenster_Merken(Fenster_Edit); }

@@ -3,6 +3,7 @@
 
 #include "core/settings.h"
 #include "core/shared_state.h"
+#include "programmer/Brenner_Zustand.h"
 #include "programmer/Geraete.h"
 #include "programmer/Port_direkt.h"
 #include "programmer/Port_ppdev.h"
@@ -19,10 +20,9 @@
 namespace varnholt {
 namespace {
 
-constexpr std::string_view Art_Simuliert = "sim";
-constexpr std::string_view Art_Direkt    = "io";
-constexpr std::string_view Art_Ppdev     = "ppdev:";
-constexpr int              Ports_Gesucht = 4; // /dev/parport0 to /dev/parport3
+constexpr int Ports_Gesucht = 4; // /dev/parport0 to /dev/parport3
+
+constexpr std::uint8_t Leitungen_In_Ruhe = 0x4A; // data register of an idle programmer
 
 bool Ist_Ppdev(std::string_view Art) { return Art.starts_with(Art_Ppdev) && Art != Art_Ppdev; }
 
@@ -81,6 +81,12 @@ void Port_Einrichten()
     // The old driver goes after the new one is in place: it may hold the port that others look at.
     const auto Bisher = std::exchange(Port_Einrichtung.Treiber, Treiber_Fuer(Port_Art));
     Plattform.Port    = Port_Einrichtung.Treiber.get();
+}
+
+void Leitungen_Ruhen()
+{
+    if (Porttreiber_OK)
+        Plattform.Port->KS_outpb(Port_Basis, Leitungen_In_Ruhe);
 }
 
 std::string Port_Beschreibung()

@@ -4,12 +4,21 @@
 
 #include "core/platform.h"
 
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace varnholt {
+
+// The values of Port_Art; behind Art_Ppdev follows the path of the device file.
+inline constexpr std::string_view Art_Simuliert = "sim";
+inline constexpr std::string_view Art_Direkt    = "io";
+inline constexpr std::string_view Art_Ppdev     = "ppdev:";
+
+// Highest base address of a port: eight registers must have room above it.
+inline constexpr std::int32_t Port_Basis_Hoechste = 0xFFF8;
 
 // What the program drives; holds for the whole run. Written by Port_Einrichten.
 inline struct Port_Einrichtung_T {
@@ -21,6 +30,9 @@ inline struct Port_Einrichtung_T {
 // unknown Port_Art is decided here and kept: the first parallel port that can be opened, else
 // "sim". reads: Port_Art, IC_Nummer   sets: Port_Art, Plattform.Port
 void Port_Einrichten();
+
+// Brings the lines of the programmer to rest when the driver is open.   reads: Porttreiber_OK
+void Leitungen_Ruhen();
 
 // Port_Art for a first start: "ppdev:" and the first of these device files that can be opened for
 // reading and writing, else "sim".

@@ -66,7 +66,7 @@ Hex_Spalte::Hex_Spalte(const std::string& Quelle,
     Masse_Nehmen();
 }
 
-// The font's advance is stretched to whole pixels, so that a run of characters keeps to the cells.
+// A cell is the font's advance rounded up to whole pixels, and the font is spaced to it.
 void Hex_Spalte::Masse_Nehmen()
 {
     QFont Schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -77,10 +77,6 @@ void Hex_Spalte::Masse_Nehmen()
     Breite                       = std::max(1, static_cast<int>(std::ceil(Vorschub - 0.01)));
     Hoehe = std::max(Kleinste_Zeile, static_cast<int>(std::ceil(Mass.height() - 0.01)));
     Linie = static_cast<int>(std::lround((Hoehe - Mass.height()) / 2 + Mass.ascent()));
-    for (std::size_t i = 0; i < Raster.size(); ++i) {
-        const QChar c(Zeichen_Aus_1252(static_cast<char>(i)));
-        Raster[i] = Mass.inFont(c) && std::abs(Mass.horizontalAdvance(c) - Vorschub) < 0.01;
-    }
     Schrift.setLetterSpacing(QFont::AbsoluteSpacing, Breite - Vorschub);
     setFont(Schrift);
     Roh = QRawFont::fromFont(Schrift);
@@ -231,32 +227,17 @@ const QColor& Hex_Gitter::Zeichen_Farbe(int Stelle, const Hex_Farben_T& f) const
     return Hex_Feld.compare(Paar, 2, "FF") == 0 ? f.Blass : f.Text;
 }
 
-// Where the run of characters ends that are drawn at once: all of one colour, and all as wide as a
-// cell. Others stand alone.
-int Hex_Gitter::Lauf_Ende(int Stelle, int Bis, const Hex_Farben_T& f) const
-{
-    const auto Zeichen = [&](int s) { return Seiten_Text()[static_cast<std::size_t>(s)]; };
-    int        Ende    = Stelle + 1;
-    while (Im_Raster(Zeichen(Stelle)) && Ende < Bis && Im_Raster(Zeichen(Ende)) &&
-           Zeichen_Farbe(Ende, f) == Zeichen_Farbe(Stelle, f))
-        ++Ende;
-    return Ende;
-}
-
 void Hex_Gitter::Zeile_Zeichnen(QPainter& Maler, int Erste_Stelle, const Hex_Farben_T& f)
 {
     Marke_Zeichnen(Maler, Erste_Stelle, f.Marke);
     const int Bis = Erste_Stelle + Sichtbare_Zeichen();
-    for (int s = Erste_Stelle, Ende = s; s < Bis; s = Ende) {
-        Ende = Lauf_Ende(s, Bis, f);
-        const auto Stueck =
-            std::string_view(Seiten_Text())
-                .substr(static_cast<std::size_t>(s), static_cast<std::size_t>(Ende - s));
+    for (int s = Erste_Stelle; s < Bis; ++s) {
+        const auto Zeichen = std::string_view(Seiten_Text()).substr(static_cast<std::size_t>(s), 1);
         const QColor& Farbe = Zeichen_Farbe(s, f);
-        if (Ohne_Bild(Stueck.front()))
+        if (Ohne_Bild(Zeichen.front()))
             Rahmen_Zeichnen(Maler, s, Farbe == f.Text ? f.Blass : Farbe);
         else
-            Text_Zeichnen(Maler, s, Stueck, Farbe);
+            Text_Zeichnen(Maler, s, Zeichen, Farbe);
     }
 }
 

@@ -58,7 +58,6 @@ protected:
     int  Stelle_An(const QPoint& Ort) const; // offset of the cell there, drawn into the page
     int  Sichtbare_Zeichen() const { return Sichtbar; }
     const std::string& Seiten_Text() const { return *Text; }
-    bool Im_Raster(char Zeichen) const { return Raster[static_cast<std::uint8_t>(Zeichen)]; }
 
 private:
     void Laeufe_Zeichnen(QPainter& Maler);
@@ -80,7 +79,6 @@ private:
     QRawFont                 Roh{};      // the font as the glyphs' numbers mean it
     std::array<quint32, 256> Glyphen{};  // by character; 0: the font has none
     std::vector<Lauf_T>      Laeufe{};   // of the page that is being drawn
-    std::array<bool, 256>    Raster{};   // the font has the character, as wide as all others
 };
 
 // What a pane hands its events to, and what it shows as marked.
@@ -123,7 +121,6 @@ protected:
 
 private:
     const QColor& Zeichen_Farbe(int Stelle, const Hex_Farben_T& f) const;
-    int           Lauf_Ende(int Stelle, int Bis, const Hex_Farben_T& f) const;
     bool          Taste_Weitergeben(const Taste_T& Taste);
     void          Marke_Zeichnen(QPainter& Maler, int Erste_Stelle, const QColor& Farbe);
     void          Zug_Markieren(int Bis);

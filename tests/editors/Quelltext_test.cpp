@@ -925,7 +925,7 @@ TEST_F(Quelltext_Test, Activation_makes_the_editor_the_active_window_and_readies
     EXPECT_EQ(Werkzeug(21).Hinweis, "Assemblieren");
     Sprache = "X"; // from a damaged settings file
     Edit_Activate();
-    EXPECT_EQ(Werkzeug(21).Hinweis, "Assemble");
+    EXPECT_EQ(Werkzeug(21).Hinweis, "Assemblieren");
 }
 
 TEST_F(Quelltext_Test, Deactivation_keeps_the_place_of_the_window)
