@@ -1,5 +1,6 @@
 // Colouring of source lines and of the whole text.
 #include "editors/Einfaerben.h"
+#include "simulator/Sitzung.h"
 
 #include "core/codepage.h"
 #include "core/commands.h"
@@ -38,24 +39,6 @@ template <class Besuch> std::size_t Marken_Durchlaufen(std::string_view Zeile, B
         if (!Ist_Datenwort(Name))
             Je_Marke(i, Name);
     });
-}
-
-// The lines of a piece of text that begins at Anfang in the document.
-void Zeilen_Faerben(std::string_view           Stueck,
-                    std::int64_t               Anfang,
-                    bool                       Mit_Text,
-                    std::vector<Farbstelle_T>& Stellen)
-{
-    for (std::size_t i = 0; i < Stueck.size();) {
-        const std::size_t      LF    = std::min(Stueck.find('\n', i), Stueck.size());
-        const std::string_view Zeile = Stueck.substr(i, LF - i);
-        const bool             CR    = !Zeile.empty() && Zeile.back() == '\r';
-        Zeile_Faerben(Zeile.substr(0, Zeile.size() - (CR ? 1 : 0)),
-                      Anfang + static_cast<std::int64_t>(i),
-                      Mit_Text,
-                      Stellen);
-        i = LF + 1;
-    }
 }
 
 // The text can't be typed into while it is coloured: the places would no longer be right.
@@ -133,6 +116,23 @@ void Zeile_Faerben(std::string_view           Zeile,
     if (Mit_Text)
         Anfügen(Teile.Marke, Teile.Kommentar, Farbe_Text);
     Anfügen(Teile.Kommentar, Zeile.size(), Farbe_Kommentar);
+}
+
+void Zeilen_Faerben(std::string_view           Stueck,
+                    std::int64_t               Anfang,
+                    bool                       Mit_Text,
+                    std::vector<Farbstelle_T>& Stellen)
+{
+    for (std::size_t i = 0; i < Stueck.size();) {
+        const std::size_t      LF    = std::min(Stueck.find('\n', i), Stueck.size());
+        const std::string_view Zeile = Stueck.substr(i, LF - i);
+        const bool             CR    = !Zeile.empty() && Zeile.back() == '\r';
+        Zeile_Faerben(Zeile.substr(0, Zeile.size() - (CR ? 1 : 0)),
+                      Anfang + static_cast<std::int64_t>(i),
+                      Mit_Text,
+                      Stellen);
+        i = LF + 1;
+    }
 }
 
 void Zeilen_Einfaerben(std::int64_t Erste, std::int64_t Letzte)

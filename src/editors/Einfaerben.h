@@ -16,11 +16,8 @@ inline constexpr std::int32_t Farbe_Marke     = 0xDD1111; // line start through 
 inline constexpr std::int32_t Farbe_Kommentar = 0x119911; // from ";" or "'" to the line's end
 
 inline struct Einfaerben_T {
-    bool          Debug_Stop = false; // ends the colouring at its next turn; anyone may set it
     std::uint64_t Lauf       = 0;     // number of the last colouring begun
 } Einfaerben;
-
-inline constinit auto& Debug_Stop = Einfaerben.Debug_Stop;
 
 // The state as at program start.
 inline void Einfaerben_Zuruecksetzen() { Einfaerben = {}; }
@@ -63,5 +60,10 @@ void Zeile_Faerben(std::string_view           Zeile,
                    std::int64_t               Anfang,
                    bool                       Mit_Text,
                    std::vector<Farbstelle_T>& Stellen);
+// The same for the lines of a piece of text.
+void Zeilen_Faerben(std::string_view           Stueck,
+                    std::int64_t               Anfang,
+                    bool                       Mit_Text,
+                    std::vector<Farbstelle_T>& Stellen);
 
 } // namespace varnholt

@@ -1,14 +1,18 @@
 // The note file beside a document.
 #include "files/Notizen.h"
 
+#include "core/messages.h"
 #include "core/platform.h"
+#include "core/rich_text.h"
 #include "core/shared_state.h"
 #include "editors/Quelltext_Sperre.h"
 #include "files/Datei_Zustand.h"
 #include "files/Dateimeldungen.h"
 #include "files/Dateinamen.h"
+#include "files/Rtf.h"
 
 #include <filesystem>
+#include <utility>
 
 namespace varnholt {
 namespace {
@@ -40,17 +44,56 @@ std::string Notiz_Datei_Suchen(bool Mit_RTF)
     return Mit_RTF && Vorhanden(Name) ? Name : std::string{};
 }
 
+void Zu_Lang_Melden(const std::string& Name)
+{
+    Notiz_Datei.Zu_Lang = Name;
+    Plattform.Box->Hinweisen(
+        In_Sprache({"Die Notizen " + Name + " sind zu lang: nur ihr Anfang wird gezeigt.",
+                    "The notes " + Name + " are too long: only their beginning is shown."}));
+}
+
+// What was read of a file that is too long would not replace it. Unchanged there is nothing to
+// save.
+void Nicht_Ueberschrieben(const std::string& Name, const Reich_Text_T& Text)
+{
+    if (Text == Notiz_Datei.Gezeigt)
+        return;
+    Datei_Fehler = Dateifehler::Schreibfehler;
+    Plattform.Box->Hinweisen(In_Sprache(
+        {"Die Notizen wurden nicht gespeichert: " + Name + " konnte nicht ganz gelesen werden.",
+         "The notes were not saved: " + Name + " could not be read completely."}));
+}
+
+// Rich text, or plain text of an older file, in the control.
+void In_Notiz_Geben(std::string Bytes, const std::string& Name)
+{
+    if (!Ist_Rtf(Bytes)) {
+        Textdatei_T Datei = Text_Entschluesseln(std::move(Bytes));
+        In_Textfeld_Geben(Datei, *Plattform.Notiz);
+        return;
+    }
+    const Rtf_Ergebnis_T Ergebnis = Rtf_Lesen(Bytes);
+    Plattform.Notiz->Reich_Setzen(Ergebnis.Text);
+    Notiz_Datei.RTF = std::move(Bytes);
+    if (Ergebnis.Zu_Lang)
+        Zu_Lang_Melden(Name);
+}
+
 } // namespace
 
 void Notiz_Laden(bool Mit_RTF)
 {
-    Notiz_Datei            = {};
+    const Edit_Ruhe   Ruhe;
     const std::string Name = Notiz_Datei_Suchen(Mit_RTF);
-    if (!Name.empty() && Name != Datei_Name)
-        if (auto Bytes = Ganze_Datei_Lesen(Name, Textdatei_Hoechstens))
-            Notiz_Datei = Text_Entschluesseln(std::move(*Bytes));
-    const Edit_Ruhe Ruhe;
-    In_Textfeld_Geben(Notiz_Datei, *Plattform.Notiz);
+    Notiz_Datei            = {};
+    Plattform.Notiz->Text_Setzen({});
+    if (Name.empty() || Name == Datei_Name)
+        return;
+    if (auto Bytes = Ganze_Datei_Lesen(Name, Textdatei_Hoechstens))
+        In_Notiz_Geben(std::move(*Bytes), Name);
+    else
+        Notiz_Datei.Zu_Lang = Name;
+    Notiz_Datei.Gezeigt = Plattform.Notiz->Reicher_Text();
 }
 
 void Notiz_Speichern()
@@ -58,7 +101,16 @@ void Notiz_Speichern()
     const std::string Name = Neben_Dem_Dokument(".not");
     if (Plattform.Notiz->Laenge() == 0 || Name == Datei_Name)
         return; // a document of that very name is not to be lost
-    Textdatei_Speichern(Name, *Plattform.Notiz, Notiz_Datei);
+    Reich_Text_T Text = Plattform.Notiz->Reicher_Text();
+    if (Name == Notiz_Datei.Zu_Lang)
+        return Nicht_Ueberschrieben(Name, Text);
+    // Unchanged notes are written as they came: with what is not shown of them.
+    const bool  Bleibt = !Notiz_Datei.RTF.empty() && Text == Notiz_Datei.Gezeigt;
+    std::string Neue   = Bleibt ? std::string{} : Rtf_Schreiben(Text);
+    if (!Datei_Sichern(Name, Bleibt ? Notiz_Datei.RTF : Neue) || Bleibt)
+        return;
+    Notiz_Datei.RTF     = std::move(Neue);
+    Notiz_Datei.Gezeigt = std::move(Text);
 }
 
 } // namespace varnholt

@@ -1,4 +1,4 @@
-// The note file beside a document: <name>.not, the text of `Notiz`.
+// The note file beside a document: <name>.not, the rich text of `Notiz`. A plain text is read too.
 #pragma once
 
 namespace varnholt {
@@ -8,7 +8,8 @@ namespace varnholt {
 // reads: Datei_Name   sets: Notiz, Notiz_Datei
 void Notiz_Laden(bool Mit_RTF);
 
-// Saves the notes of the document; empty ones leave an existing file alone.
+// Saves the notes of the document as rich text; empty ones leave an existing file alone, and so do
+// those whose file couldn't be read to its end (with a notice when they were changed).
 // reads: Datei_Name, Notiz   sets: Notiz_Datei, Datei_Fehler
 void Notiz_Speichern();
 

@@ -6,6 +6,7 @@
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "language/Assembler_Zustand.h"
+#include "language/Basic_Formen.h"
 #include "language/Befehle.h"
 #include "language/HexDez.h"
 #include "language/Marken.h"
@@ -16,64 +17,6 @@
 
 namespace varnholt {
 namespace {
-
-// Bytes as text, with holes: v constant, d and e direct addresses, b bit address, +n the register
-// number added, hi lo the target of the jump over the block, r the skip over the tail.
-struct IF_Form {
-    std::string_view Form;  // n stands for a register number 0 to 7
-    int              Werte; // values on the line; -1 any number
-    std::string_view Block;
-    std::string_view Einzeilig;
-    int              Zusatz; // bytes that the skip passes beyond the tail
-};
-
-// clang-format off
-constexpr IF_Form IF_Formen[] = {
-    {"IFA=#THEN",   1, "B4 v 02 80 03 02 hi lo",                    "B4 v r", 0},
-    {"IFA<>#THEN",  1, "B4 v 03 02 hi lo",                          "B4 v 02 80 r", 0},
-    {"IFA>#THEN",   1, "C0 E0 C3 94 v+1 D0 E0 50 03 02 hi lo",      "C0 E0 C3 94 v+1 D0 E0 40 r", 0},
-    {"IFA<#THEN",   1, "C0 E0 C3 94 v D0 E0 40 03 02 hi lo",        "C0 E0 C3 94 v D0 E0 50 r", 0},
-    {"IFA=THEN",    1, "B5 d 02 80 03 02 hi lo",                    "B5 d r", 0},
-    {"IFA<>THEN",   1, "B5 d 03 02 hi lo",                          "B5 d 02 80 r", 0},
-    {"IFA<THEN",    1, "C0 E0 C3 95 d D0 E0 40 03 02 hi lo",        "C0 E0 C3 95 d D0 E0 50 r", 0},
-    {"IFA>THEN",    1, "C0 E0 D3 95 d D0 E0 50 03 02 hi lo",        "C0 E0 D3 95 d D0 E0 40 r", 0},
-    {"IFRn=#THEN",  1, "B8+n v 02 80 03 02 hi lo",                  "B8+n v r", 0},
-    {"IFRn<>#THEN", 1, "B8+n v 03 02 hi lo",                        "B8+n v 02 80 r", 0},
-    {"IFRn<#THEN",  1, "C0 E0 C3 E8+n 94 v D0 E0 40 03 02 hi lo",   "C0 E0 C3 E8+n 94 v D0 E0 50 r", 0},
-    {"IFRn>#THEN",  1, "C0 E0 C3 E8+n 94 v+1 D0 E0 50 03 02 hi lo", "C0 E0 C3 E8+n 94 v+1 D0 E0 40 r", 0},
-    {"IFRn=THEN",   1, "C0 E0 E8+n B5 d 04 D0 E0 80 05 D0 E0 02 hi lo", "C0 E0 E8+n B5 d 04 D0 E0 80 04 D0 E0 80 r", 0},
-    {"IFRn<>THEN",  1, "C0 E0 E8+n B5 d 05 D0 E0 02 hi lo D0 E0",   "C0 E0 E8+n B5 d 04 D0 E0 80 r D0 E0", 2},
-    {"IFRn>THEN",   1, "C0 E0 E8+n D3 95 d D0 E0 50 03 02 hi lo",   "C0 E0 E8+n D3 95 d D0 E0 40 r", 0},
-    {"IFRn<THEN",   1, "C0 E0 E8+n C3 95 d D0 E0 40 03 02 hi lo",   "C0 E0 E8+n C3 95 d D0 E0 50 r", 0},
-    {"IF=#THEN",    2, "C0 E0 E5 d B4 v 04 D0 E0 80 05 D0 E0 02 hi lo", "C0 E0 E5 d B4 v 04 D0 E0 80 04 D0 E0 80 r", 0},
-    {"IF<>#THEN",   2, "C0 E0 E5 d B4 v 05 D0 E0 02 hi lo D0 E0",   "C0 E0 E5 d B4 v 04 D0 E0 80 r D0 E0", 2},
-    {"IF<#THEN",    2, "C0 E0 E5 d C3 94 v D0 E0 40 03 02 hi lo",   "C0 E0 E5 d C3 94 v D0 E0 50 r", 0},
-    {"IF>#THEN",    2, "C0 E0 E5 d C3 94 v+1 D0 E0 50 03 02 hi lo", "C0 E0 E5 d C3 94 v+1 D0 E0 40 r", 0},
-    {"IF=THEN",     2, "C0 E0 E5 d B5 e 04 D0 E0 80 05 D0 E0 02 hi lo", "C0 E0 E5 d B5 e 04 D0 E0 80 04 D0 E0 80 r", 0},
-    {"IF<>THEN",    2, "C0 E0 E5 d B5 e 05 D0 E0 02 hi lo D0 E0",   "C0 E0 E5 d B5 e 04 D0 E0 80 r D0 E0", 2},
-    {"IF<THEN",     2, "C0 E0 E5 d C3 95 e D0 E0 40 03 02 hi lo",   "C0 E0 E5 d C3 95 e D0 E0 50 r", 0},
-    {"IF>THEN",     2, "C0 E0 E5 d D3 95 e D0 E0 50 03 02 hi lo",   "C0 E0 E5 d D3 95 e D0 E0 40 r", 0},
-    {"IFBITTHEN",     -1, "30 b 02 80 03 02 hi lo",                 "30 b r", 0},
-    {"IFNOTBITTHEN",  -1, "20 b 02 80 03 02 hi lo",                 "20 b r", 0},
-    {"IFBITCTHEN",    -1, "50 02 80 03 02 hi lo",                   "50 r", 0},
-    {"IFNOTBITCTHEN", -1, "40 02 80 03 02 hi lo",                   "40 r", 0},
-};
-
-// End of a loop: w end value, d direct address of the counter, hi lo the loop's first instruction.
-constexpr std::string_view NEXT_Formen[] = {
-    "B4 w 03 04 80 04 04 02 hi lo",                                             // accumulator
-    "B8+n w 03 08+n 80 04 08+n 02 hi lo",                                       // register
-    "C0 E0 E5 d B4 w 06 D0 E0 05 d 80 07 D0 E0 05 d 02 hi lo",                  // direct address
-};
-
-struct Zuweisung {
-    std::string_view Form;
-    std::string_view Wird;
-};
-constexpr Zuweisung Zuweisungen[] = {
-    {"=#", "MOV,#"}, {"=A", "MOV,A"}, {"A=", "MOVA,"}, {"A=#", "MOVA,#"},
-};
-// clang-format on
 
 // What the holes of a byte row stand for.
 struct Luecken {
@@ -167,11 +110,24 @@ void Bytes_Pruefen(int Anzahl)
             Meldung_Byte_Bereich();
 }
 
+void Tiefe_Pruefen(int Tiefe)
+{
+    if (Tiefe >= Tiefe_Hoechstens)
+        Fehler("Zu viele verschachtelte IF oder FOR Anweisungen !",
+               "Too many nested IF or FOR instructions !");
+}
+
+// What is jumped over has to end within the code memory.
+void Wort_Pruefen(std::int32_t Adresse)
+{
+    if (Adresse > 0xFFFF)
+        Meldung_Wort_Bereich();
+}
+
 void IF_Oeffnen(std::int32_t Offene_Adresse)
 {
-    if (IF_Tiefe >= Tiefe_Hoechstens)
-        Fehler("Es sind höchstens 100 verschachtelte IF möglich !",
-               "No more than 100 nested IF are possible !");
+    Tiefe_Pruefen(IF_Tiefe);
+    Wort_Pruefen(Offene_Adresse);
     IF_Stapel[static_cast<std::size_t>(++IF_Tiefe)] = Offene_Adresse;
 }
 
@@ -197,8 +153,7 @@ Basic_Ergebnis IF_Setzen(const IF_Form& f, int n)
     if (f.Form.find("<#") != std::string_view::npos && v == 0)
         return Fehler_Marke("ERR6");
     if (Inline_IF)
-        Fehler("Ein IF ist als Anweisung hinter THEN nicht möglich !",
-               "An IF is not possible as instruction behind THEN !");
+        Fehler("IF kann nicht hinter THEN stehen !", "IF can't stand behind THEN !");
     const bool         Block  = Lauf.Zeile_Gross.size() == f.Form.size();
     const std::int32_t Anfang = Adress_Zaehler;
     const int          Offene =
@@ -226,9 +181,9 @@ Basic_Ergebnis IF_Uebersetzen()
 
 Basic_Ergebnis ELSE_Uebersetzen()
 {
-    Byte_Setzen(Adress_Zaehler, 0x02);
-    Adress_Zaehler += 3;
+    Reihe_Setzen(ELSE_Reihe, {});
     std::int32_t& Oben = IF_Stapel[static_cast<std::size_t>(IF_Tiefe)];
+    Wort_Pruefen(Adress_Zaehler);
     Sprungziel_Setzen(Oben, Adress_Zaehler);
     Oben = Adress_Zaehler - 2;
     return Basic_Ergebnis::Fertig;
@@ -236,6 +191,7 @@ Basic_Ergebnis ELSE_Uebersetzen()
 
 Basic_Ergebnis END_IF_Uebersetzen()
 {
+    Wort_Pruefen(Adress_Zaehler);
     Sprungziel_Setzen(IF_Stapel[static_cast<std::size_t>(IF_Tiefe)], Adress_Zaehler);
     return --IF_Tiefe < 0 ? Fehler_Marke("ERR4") : Basic_Ergebnis::Fertig;
 }
@@ -244,9 +200,7 @@ Basic_Ergebnis FOR_Oeffnen(std::string_view Reihe, Struktur_T::Schleife_T::Art_T
 {
     const std::int32_t Von = Wert_Nr(Wert_Anzahl - 1);
     const std::int32_t Bis = Wert_Nr(Wert_Anzahl);
-    if (FOR_Tiefe >= Tiefe_Hoechstens)
-        Fehler("Es sind höchstens 100 verschachtelte FOR möglich !",
-               "No more than 100 nested FOR are possible !");
+    Tiefe_Pruefen(FOR_Tiefe);
     Reihe_Setzen(Reihe, {Von, Ziel, 0, 0, 0, Ziel, -1});
     FOR_Stapel[static_cast<std::size_t>(++FOR_Tiefe)] = {Adress_Zaehler, Bis, Art, Ziel};
     ++Befehl_Zaehler;
@@ -261,14 +215,15 @@ Basic_Ergebnis FOR_Uebersetzen()
     Bytes_Pruefen(Wert_Anzahl); // the values are checked before the form is known
     if (Wert_Nr(Wert_Anzahl - 1) > Wert_Nr(Wert_Anzahl))
         return Fehler_Marke("ERR8");
-    const std::string_view Form = Lauf.Zeile_Gross;
-    if (Wert_Anzahl == 2 && Form == "FORA=#TO#")
-        return FOR_Oeffnen("74 v", Schleife::Akku, 0);
-    if (Wert_Anzahl == 2 && Form.size() == 10)
-        if (const int n = Form_Passt("FORRn=#TO#"); n >= 0)
-            return FOR_Oeffnen("78+n v", Schleife::Register, n);
-    if (Wert_Anzahl == 3 && Form == "FOR=#TO#")
-        return FOR_Oeffnen("75 d v", Schleife::Direkt, Wert_Nr(1));
+    const std::string_view Form          = Lauf.Zeile_Gross;
+    const auto& [Akku, Register, Direkt] = FOR_Formen;
+    if (Wert_Anzahl == 2 && Form == Akku.Form)
+        return FOR_Oeffnen(Akku.Reihe, Schleife::Akku, 0);
+    if (Wert_Anzahl == 2 && Form.size() == Register.Form.size())
+        if (const int n = Form_Passt(Register.Form); n >= 0)
+            return FOR_Oeffnen(Register.Reihe, Schleife::Register, n);
+    if (Wert_Anzahl == 3 && Form == Direkt.Form)
+        return FOR_Oeffnen(Direkt.Reihe, Schleife::Direkt, Wert_Nr(1));
     return Basic_Ergebnis::Keines;
 }
 

@@ -61,20 +61,28 @@ std::size_t Zeilen_Anfang(std::string_view Text, int Zeile)
 
 } // namespace
 
-Textstelle_T Fehler_Bereich(std::string_view Text, int Zeile)
+Textstelle_T Code_Stelle(std::string_view Zeile)
 {
-    std::size_t i     = Zeilen_Anfang(Text, std::min(Zeile, Letzte_Zeile(Text)));
-    i                 = std::min(Text.find_first_not_of(" \t\n", i), Text.size());
-    std::size_t Ende  = i;
-    bool        Zitat = false;
-    for (std::size_t k = i; k < Text.size() && Text[k] != '\r'; ++k) {
-        Zitat = Zitat != (Text[k] == Zitat_Zeichen);
-        if (!Zitat && (Text[k] == '\'' || Text[k] == ';'))
+    const std::size_t Anfang = std::min(Zeile.find_first_not_of(" \t\n"), Zeile.size());
+    std::size_t       Ende   = Anfang;
+    bool              Zitat  = false;
+    for (std::size_t k = Anfang; k < Zeile.size(); ++k) {
+        Zitat = Zitat != (Zeile[k] == Zitat_Zeichen);
+        if (!Zitat && (Zeile[k] == '\'' || Zeile[k] == ';'))
             break;
-        if (Text[k] != ' ' && Text[k] != '\t')
+        if (Zeile[k] != ' ' && Zeile[k] != '\t')
             Ende = k + 1;
     }
-    return {static_cast<std::int64_t>(i), static_cast<std::int64_t>(Ende - i)};
+    return {static_cast<std::int64_t>(Anfang), static_cast<std::int64_t>(Ende - Anfang)};
+}
+
+Textstelle_T Fehler_Bereich(std::string_view Text, int Zeile)
+{
+    const std::size_t Anfang = Zeilen_Anfang(Text, std::min(Zeile, Letzte_Zeile(Text)));
+    const std::size_t CR     = std::min(Text.find('\r', Anfang), Text.size());
+    Textstelle_T      Stelle = Code_Stelle(Text.substr(Anfang, CR - Anfang));
+    Stelle.Anfang += static_cast<std::int64_t>(Anfang);
+    return Stelle;
 }
 
 void Fehlermeldung_Zeigen()

@@ -15,4 +15,8 @@ void Fehlermeldung_Zeigen();
 // A line behind the end counts as the last one.
 Textstelle_T Fehler_Bereich(std::string_view Text, int Zeile);
 
+// What is selected of a line by itself: behind its leading blanks up to the last character ahead of
+// a comment; empty for a line without code.
+Textstelle_T Code_Stelle(std::string_view Zeile);
+
 } // namespace varnholt

@@ -4,6 +4,7 @@
 #include "core/commands.h"
 #include "core/shared_state.h"
 #include "editors/Quelltext.h"
+#include "simulator/Sitzung.h"
 #include "support/scripted_platform.h"
 
 #include <rapidcheck/gtest.h>

@@ -344,18 +344,18 @@ RC_GTEST_FIXTURE_PROP(Hexablage, any_walk_of_keys_mouse_and_window_keeps_page_an
     for (const auto& [Was, Wert] : Folge) {
         const bool Hex   = Wert % 2 == 0;
         Hex_Aktives_Feld = Hex ? Feld_Hex : Feld_AscII;
-        const auto Druck = [&](const Taste_T& t) {
+        const auto Druecken = [&](const Taste_T& t) {
             if (Hex)
                 Hex_Feld_KeyDown(t);
             else if (!AscII_Feld_KeyDown(t) && t.Zeichen != 0)
                 AscII_Feld_KeyPress(t.Zeichen);
         };
         if (Was < 6)
-            Druck(Taste(Taste_Bild_Auf + Wert % 8));
+            Druecken(Taste(Taste_Bild_Auf + Wert % 8));
         else if (Was < 8)
-            Druck(Zeichen_Taste("0123456789ABCDEF x"[Wert % 18]));
+            Druecken(Zeichen_Taste("0123456789ABCDEF x"[Wert % 18]));
         else if (Was == 8)
-            Druck(Wert % 3 == 0 ? Strg('V') : Wert % 3 == 1 ? Strg('X') : Taste(Taste_Entfernen));
+            Druecken(Wert % 3 == 0 ? Strg('V') : Wert % 3 == 1 ? Strg('X') : Taste(Taste_Entfernen));
         else if (Was == 9) {
             (Hex ? Hexedit.Hex_Auswahl : Hexedit.AscII_Auswahl) = {Wert, Wert % 7};
             (Hex ? Hex_Feld_MouseUp : AscII_Feld_MouseUp)();

@@ -274,65 +274,6 @@ TEST_F(Reiche_Quelle_Welt, a_new_text_with_an_outside_character_is_UTF8)
     Feld.Text_Setzen_UTF8("; \xC3\xA4\xE4\xB8\xAD\r\n");
     EXPECT_EQ(Speichern("new.asm"), "; \xC3\xA4\xE4\xB8\xAD\r\n");
 }
-TEST_F(Reiche_Quelle_Welt, notes_keep_their_outside_characters_too)
-{
-    Reiches_Feld Notizen;
-    Plattform.Notiz = &Notizen;
-    Ordner.Anlegen("a.not", "\xE4\xB8\xAD\n");
-    Laden("a.asm", "NOP");
-    EXPECT_EQ(Notizen.Ganz, "\xE4\xB8\xAD\r\n");
-    Notizen.Text_Setzen_UTF8("\xE4\xB8\xAD\xE6\x96\x87\r\n");
-    Speichern("a.asm");
-    EXPECT_EQ(Bytes_Von(Ordner.Name("a.not")), "\xE4\xB8\xAD\xE6\x96\x87\n");
-}
-
-// --- notes ---------------------------------------------------------------------------------------
-
-TEST_F(Speichern_Welt, notes_are_saved_beside_the_document)
-{
-    Notiz.Inhalt = "solder\r\n";
-    Speichern("a.bin");
-    EXPECT_EQ(Bytes_Von(Ordner.Name("a.not")), "solder\r\n");
-}
-TEST_F(Speichern_Welt, notes_of_a_short_name_stay_in_its_folder)
-{
-    Notiz.Inhalt = "solder\r\n";
-    Speichern("abc");
-    EXPECT_EQ(Bytes_Von(Ordner.Name("abc.not")), "solder\r\n");
-    EXPECT_FALSE(Datei_Geaendert);
-}
-TEST_F(Speichern_Welt, empty_notes_leave_an_existing_note_file_alone)
-{
-    Ordner.Anlegen("a.not", "old");
-    Speichern("a.bin");
-    EXPECT_EQ(Bytes_Von(Ordner.Name("a.not")), "old");
-}
-TEST_F(Speichern_Welt, notes_loaded_and_saved_are_the_same_to_the_byte)
-{
-    Ordner.Anlegen("a.not", "\xEF\xBB\xBF\xE4\xB8\xAD\n");
-    Laden("a.bin", "x");
-    Speichern("a.bin");
-    EXPECT_EQ(Bytes_Von(Ordner.Name("a.not")), "\xEF\xBB\xBF\xE4\xB8\xAD\n");
-}
-TEST_F(Speichern_Welt, notes_do_not_go_over_a_document_of_that_name)
-{
-    Setzen(0, {1});
-    Notiz.Inhalt = "notes";
-    EXPECT_EQ(Speichern("a.not").size(), 256u);
-}
-TEST_F(Speichern_Welt, notes_that_can_not_be_written_leave_the_document_changed)
-{
-    Datei_Geaendert = true;
-    Notiz.Inhalt    = "notes";
-    fs::create_directory(Ordner.Pfad / "a.not");
-    Setzen(0, {1});
-    EXPECT_EQ(Speichern("a.bin").size(), 256u);
-    EXPECT_TRUE(Datei_Geaendert);
-    EXPECT_EQ(Datei_Fehler, Dateifehler::Schreibfehler);
-    EXPECT_EQ(Box.Hinweise.back(),
-              "The file " + Ordner.Name("a.not") + " could not be written: it is a folder.");
-}
-
 // --- bookkeeping and failures --------------------------------------------------------------------
 
 TEST_F(Speichern_Welt, caption_recent_files_and_flags_follow_the_save)

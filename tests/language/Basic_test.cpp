@@ -29,6 +29,8 @@ const Text_Paar FOR_Rueckwaerts{
     "The first value of the For...To Instruction must be lower than the second value."};
 const Text_Paar NEXT_Ohne_FOR{"NEXT ohne FOR...TO !", "NEXT without FOR...TO !"};
 const Text_Paar IF_Offen{"If ... Then ohne End IF !", "If ... Then without End If!"};
+const Text_Paar Zu_Tief{"Zu viele verschachtelte IF oder FOR Anweisungen !",
+                        "Too many nested IF or FOR instructions !"};
 const Text_Paar FOR_Offen{"For ohne Next !", "For without Next !"};
 
 // One IF: `v` a value, `d` and `e` direct addresses, `b` a bit, `n` a register; B8+n and E8+n are
@@ -373,11 +375,28 @@ TEST_F(Basic_Welt, patches_blocks_above_32767)
     EXPECT_EQ(Ab(0x9000, "ORG 9000h\nFOR A=#1 TO #2\nNEXT"), "74 01 B4 02 03 04 80 04 04 02 90 02");
 }
 
+TEST_F(Basic_Welt, tells_the_range_of_addresses_for_an_IF_beyond_65535)
+{
+    // The operand of the jump over the block stands five bytes behind the first one.
+    EXPECT_EQ(Ab(0xFFF8, "ORG 0FFF8h\nIF BIT C THEN\nEND IF"), "50 02 80 03 02 FF FF");
+    for (const char* Text : {"ORG 0FFF9h\nIF BIT C THEN\nEND IF",
+                             "ORG 0FFF8h\nIF BIT C THEN\nNOP\nEND IF",
+                             "ORG 0FFFBh\nIF BIT C THEN\nEND IF",
+                             "ORG 10000h\nIF BIT C THEN\nEND IF",
+                             "ORG 0FFFFh\nIF BIT C THEN NOP",
+                             "ORG 0FFF5h\nIF BIT C THEN\nNOP\nELSE\nEND IF",
+                             "ORG 0FFF8h\nIF BIT C THEN\nELSE\nEND IF"})
+        Erwarte_Fehler(Text, Wort_Bereich().D, Wort_Bereich().E);
+    EXPECT_EQ(Ab(0xFFFE, "ORG 0FFFEh\nIF BIT C THEN NOP"), "50 01 00");
+    EXPECT_EQ(Ab(0xFFF5, "ORG 0FFF5h\nIF BIT C THEN\nELSE\nEND IF"),
+              "50 02 80 03 02 FF FF 02 FF FF");
+}
+
 TEST_F(Basic_Welt, takes_no_IF_as_the_tail_of_an_IF)
 {
     Erwarte_Fehler("IF A=#5 THEN IF A=#6 THEN NOP",
-                   "Ein IF ist als Anweisung hinter THEN nicht möglich !",
-                   "An IF is not possible as instruction behind THEN !");
+                   "IF kann nicht hinter THEN stehen !",
+                   "IF can't stand behind THEN !");
     EXPECT_EQ(Assembliere("IF A=#5 THEN IF BIT C THEN\nEND IF"), Letzte_Meldung());
     EXPECT_EQ(Assembler_Fehler, 1);
 }
@@ -395,9 +414,7 @@ TEST_F(Basic_Welt, nests_100_IFs_and_no_more)
     EXPECT_EQ(Byte_Anzahl(Assembliere(Tief(100))), 700);
     EXPECT_EQ(Assembler_Fehler, 0);
     EXPECT_EQ(Hex_Text(0, 7), "50 02 80 03 02 02 BC");
-    Erwarte_Fehler(Tief(101),
-                   "Es sind höchstens 100 verschachtelte IF möglich !",
-                   "No more than 100 nested IF are possible !");
+    Erwarte_Fehler(Tief(101), Zu_Tief.D, Zu_Tief.E);
 }
 
 // --- FOR and NEXT
@@ -500,9 +517,7 @@ TEST_F(Basic_Welt, nests_100_FORs_and_no_more)
         return Text;
     };
     EXPECT_EQ(Byte_Anzahl(Assembliere(Tief(100))), 1200);
-    Erwarte_Fehler(Tief(101),
-                   "Es sind höchstens 100 verschachtelte FOR möglich !",
-                   "No more than 100 nested FOR are possible !");
+    Erwarte_Fehler(Tief(101), Zu_Tief.D, Zu_Tief.E);
 }
 
 TEST_F(Basic_Welt, forgets_open_structures_at_the_next_run)

@@ -1,0 +1,27 @@
+// The form `Hilfe`: a help text of a page or two. (The handbook in HTML is another thing.)
+#pragma once
+
+#include "core/rich_text.h"
+
+#include <string>
+#include <string_view>
+
+namespace varnholt {
+
+inline constexpr std::size_t Hilfe_Hoechstens = 1u << 20; // bytes of the help file
+
+// What the form shows.
+inline struct Hilfe_Form_T {
+    std::string  Titel{}; // UTF-8
+    Reich_Text_T Text{};
+} Hilfe_Form;
+
+inline void Hilfe_Zuruecksetzen() { Hilfe_Form = {}; }
+
+// The load of the form, at each showing. Layout_Text is the German text that its layout holds, as
+// RTF. In English help.rtf of the program's folder takes its place; where that can't be opened, the
+// form stays as it is.
+// reads: Sprache, Programm_Pfad   sets: Hilfe_Form
+void Hilfe_Load(std::string_view Layout_Text);
+
+} // namespace varnholt
