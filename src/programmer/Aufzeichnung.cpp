@@ -111,6 +111,14 @@ void Aufzeichnung::Wartet(std::int64_t Mikrosekunden)
     Port.Wartet(Mikrosekunden);
 }
 
+// The whole length, whatever of it had passed already.
+void Aufzeichnung::Wartet_Seit(std::int64_t Anfang, std::int64_t Dauer)
+{
+    fmt::format_to(std::back_inserter(Puffer), "U {}", Dauer);
+    Zeile_Beenden();
+    Port.Wartet_Seit(Anfang, Dauer);
+}
+
 void Aufzeichnung::Sekunden_Wartet(double Sekunden)
 {
     Puffer += "S " + Sekunden_Text(Sekunden);

@@ -31,6 +31,7 @@ public:
     void         Sleep(int Millisekunden) override;
     double       Sekunden_seit_Mitternacht() override;
     void         Wartet(std::int64_t Mikrosekunden) override;
+    void         Wartet_Seit(std::int64_t Anfang, std::int64_t Dauer) override;
     void         Sekunden_Wartet(double Sekunden) override;
 
 private:

@@ -3,17 +3,21 @@
 
 #include "programmer/Brennmenue.h"
 #include "programmer/CheckIC.h"
+#include "programmer/Lockmenu.h"
+#include "programmer/MC_Zustand.h"
 
 namespace varnholt {
 
 void Brenner_Zuruecksetzen()
 {
-    Port_Zustand = {};
-    Signale      = {};
-    Durchlauf    = {};
-    Brennlauf    = {};
-    Brennmenue   = {};
-    CheckIC      = {};
+    Port_Zustand    = {};
+    Signale         = {};
+    Durchlauf       = {};
+    Brennlauf       = {};
+    Brennmenue      = {};
+    CheckIC         = {};
+    Lockmenu        = {};
+    Mikrocontroller = {};
 }
 
 } // namespace varnholt

@@ -81,6 +81,8 @@ inline struct Brennlauf_T {
     int                          Versuch     = 1;     // attempt for this address, 1 to 11
     bool                         Puls_an_C2  = false; // the pulse goes out on C2 too
     std::array<std::int32_t, 20> Versuch_Statistik{}; // addresses by the attempts that they took
+    int          Alt_Byte       = 0xFFFF; // byte in the 74HC595, FFFFh when unknown
+    std::int32_t Seiten_Groesse = 1;      // bytes of a page, of a device that is written by pages
     Brenn_Ausgang                Brenn_Ergebnis = Brenn_Ausgang::Keiner;
 } Brennlauf;
 
@@ -91,6 +93,8 @@ inline constinit auto& Puls_Breite       = Brennlauf.Puls_Breite;
 inline constinit auto& Versuch           = Brennlauf.Versuch;
 inline constinit auto& Puls_an_C2        = Brennlauf.Puls_an_C2;
 inline constinit auto& Versuch_Statistik = Brennlauf.Versuch_Statistik;
+inline constinit auto& Alt_Byte          = Brennlauf.Alt_Byte;
+inline constinit auto& Seiten_Groesse    = Brennlauf.Seiten_Groesse;
 inline constinit auto& Brenn_Ergebnis    = Brennlauf.Brenn_Ergebnis;
 
 // Every group above and the fields of the dialogs as at program start; the device table stays.

@@ -9,12 +9,18 @@
 #include "language/Assembler_Zustand.h"
 #include "language/HexDez.h"
 #include "language/Val.h"
+#include "programmer/ATMEL_Zugriff.h"
+#include "programmer/Atmel_Zugriff_II.h"
 #include "programmer/Baustein.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/CheckIC.h"
+#include "programmer/EEPROM_Schreiben.h"
 #include "programmer/Eprom_zugriff.h"
 #include "programmer/Feldwert.h"
+#include "programmer/Flash_Schreiben.h"
 #include "programmer/Lesen.h"
+#include "programmer/Loeschen.h"
+#include "programmer/Seiten_Schreiben.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -179,6 +185,46 @@ void D_Geaendert(std::string& H, std::string& D, std::string_view Text)
     H = Feld_Hex(Val(D));
 }
 
+// The programming routines by the beginning of the program type.
+struct Brenn_Weg_T {
+    std::string_view P_Typ;
+    void (*Routine)();
+};
+
+constexpr Brenn_Weg_T Brenn_Wege[] = {
+    {"87C", Eprom_Brennen},
+    {"27C", Eprom_Brennen},
+    {"27SF", Eprom_Brennen},
+    {"28C", EEPROM_Schreiben},
+    {"28F", Flash_Schreiben},
+    {"29C", Seiten_Schreiben},
+};
+
+// The routine of the selected device; null when it has none.
+auto Brenn_Routine() -> void (*)()
+{
+    for (const Brenn_Weg_T& w : Brenn_Wege)
+        if (Gewaehltes_Geraet().P_Typ.starts_with(w.P_Typ))
+            return w.Routine;
+    if (Gewaehltes_Geraet().Programmer == Board_Nr_Tessel2)
+        return Tessel2_Brennen;
+    return Typ_Auf_Tessel1(Gewaehltes_Geraet().P_Typ) ? Tessel1_Brennen : nullptr;
+}
+
+// Erases first; false when that was given up, which ends the whole command.
+bool Vorher_Gelöscht()
+{
+    Antwort = Antwort_Ok;
+    Vor_Brennen_Löschen();
+    return Antwort != Antwort_Abbrechen;
+}
+
+void Ohne_Brennen_Schliessen()
+{
+    Brenn_Ergebnis = Brenn_Ausgang::Abgebrochen;
+    B.Offen        = false;
+}
+
 // Assembles a stale source; the source lines are the debugger's only, so they go again.
 bool Bild_Aktuell()
 {
@@ -261,25 +307,20 @@ void Splitting_Waehlen(Splitting Wahl)
     B.O_Odd_Splitting  = Wahl == Splitting::Ungerade;
 }
 
-bool Brennen_Bedient() { return Beginnt_Mit(Gewaehltes_Geraet().P_Typ, {"87C", "27C", "27SF"}); }
-
-bool Löschen_Bedient()
-{
-    const Geraet_T& g           = Gewaehltes_Geraet();
-    const bool      Hat_Routine = g.Programmer == Board_Nr_Tessel2 || g.E_Typ == "89CI" ||
-                             g.E_Typ == "28C" || g.E_Typ == "28F" || g.E_Typ == "27SF";
-    return !Hat_Routine;
-}
+bool Brennen_Bedient() { return Brenn_Routine() != nullptr; }
 
 void Brennen_Click()
 {
     if (!B.Brennen_Aktiv)
         return;
     Brenn_Ergebnis = Brenn_Ausgang::Nicht_Verfuegbar;
-    if (!Brennen_Bedient() || (B.Löschen && !Löschen_Bedient()))
+    if (!Brennen_Bedient())
         return;
     Plattform.Ereignisse->Mauszeiger_Warten(true);
-    Eprom_Brennen();
+    if (B.Löschen && !Vorher_Gelöscht())
+        Ohne_Brennen_Schliessen();
+    else
+        Brenn_Routine()();
     Plattform.Ereignisse->Mauszeiger_Warten(false);
 }
 
@@ -291,8 +332,13 @@ bool Programm_Bereit() { return Porttreiber_Bereit() && Baustein_Gewaehlt() && B
 
 void MNU_IC_Brennen_Click()
 {
-    if (Programm_Bereit())
-        Brennmenue_Oeffnen();
+    if (!Programm_Bereit())
+        return;
+    B       = {};
+    B.Offen = true;
+    Plattform.Fenster->Formular_Zeigen(Formular::F_Brennmenue);
+    if (B.Offen) // no window was there to do it
+        Brennmenue_Activate();
 }
 
 void MNU_IC_Prüfen_Click()

@@ -66,10 +66,8 @@ void BR_EBA_D_Change(std::string_view Text);
 enum class Splitting { Kein, Gerade, Ungerade };
 void Splitting_Waehlen(Splitting Wahl);
 
-// True when the selected device's program type, and its erase type when Löschen is ticked, have a
-// routine. The other ones are not served yet.
+// True when the selected device's program type has a routine.
 [[nodiscard]] bool Brennen_Bedient();
-[[nodiscard]] bool Löschen_Bedient();
 
 // The buttons. Brennen does nothing while it is disabled; the routine closes the dialog.
 // reads: Brennmenue, the device's types   sets: Brenn_Ergebnis, Brennmenue

@@ -3,6 +3,7 @@
 #include "programmer/CheckIC.h"
 
 #include "core/messages.h"
+#include "core/platform.h"
 #include "core/shared_state.h"
 #include "programmer/Baustein.h"
 #include "programmer/Feldwert.h"
@@ -84,6 +85,13 @@ void Form_Zeigen(bool Ungerade, bool Gerade)
                .Ungerade        = Ungerade,
                .Gerade          = Gerade,
                .Seiten_Bewiesen = CheckIC.Seiten_Bewiesen};
+    Plattform.Fenster->Formular_Zeigen(Formular::F_CheckIC);
+}
+
+void Form_Schliessen()
+{
+    CheckIC.Offen = false;
+    Plattform.Fenster->Formular_Entladen(Formular::F_CheckIC);
 }
 
 bool Baustein_Einlesen()
@@ -140,13 +148,12 @@ std::string Abweichungen_Tabelle(std::span<const std::uint8_t> Baustein,
 void CheckIC_Start(bool Ungerade, bool Gerade)
 {
     Form_Zeigen(Ungerade, Gerade);
-    if (!Baustein_Einlesen()) {
-        CheckIC.Offen = false;
-        return;
-    }
+    if (!Baustein_Einlesen())
+        return Form_Schliessen();
     Hex_Puffer.resize(Hex_Daten.size(), 0);
     const std::int32_t u = Letzte_Beschriebene();
     CheckIC.Zustand_IC   = In_Sprache(Zustand_Text(u));
+    CheckIC.Leer         = u < 0;
     Urteilen(Mit_Bild_Vergleichen(), u < 0);
     CheckIC.Seiten_Bewiesen = false;
 }
@@ -163,8 +170,8 @@ void Button_Dat_Click()
 
 void Button_OK_Click()
 {
-    CheckIC.Offen = false;
-    Hex_Puffer    = {};
+    Form_Schliessen();
+    Hex_Puffer = {};
 }
 
 } // namespace varnholt

@@ -20,6 +20,7 @@ inline struct CheckIC_T {
     bool         Ungerade         = false; // the split that the comparison follows
     bool         Gerade           = false;
     bool         Gleich           = false; // device and image agree
+    bool         Leer             = false; // the device holds nothing but FFh
     std::int32_t Erste_Abweichung = 0;     // address that the comparison reached
     bool         Seiten_Bewiesen  = false; // Hex_Puffer is current and equal; set by the page write
 } CheckIC;

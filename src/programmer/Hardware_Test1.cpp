@@ -1,4 +1,4 @@
-// Test 1 of the Eprommer, the automatic one: all 256 bytes through the 74HC595 and back through the
+// Test 1 of both boards, the automatic one: all 256 bytes through the 74HC595 and back through the
 // 74HC157.
 #include "programmer/Hardware_Test1.h"
 
@@ -51,11 +51,11 @@ void Fehler_Zaehlen(Test1_Ergebnis& e, std::uint8_t Soll, std::uint8_t Ist)
     fmt::format_to(std::back_inserter(e.Werte), "SOLL:{} IST: {}{}", Soll, Ist, CRLF);
 }
 
-void Wert_Pruefen(Test1_Ergebnis& e, std::uint8_t Soll)
+void Wert_Pruefen(Test1_Ergebnis& e, std::uint8_t Soll, std::uint8_t (*Durchschieben)(std::uint8_t))
 {
     std::uint8_t Ist = 0;
     for (int i = 0; i < Versuche; ++i) {
-        Ist = Byte_Durchschieben(Soll);
+        Ist = Durchschieben(Soll);
         if (Ist == Soll)
             return;
     }
@@ -76,15 +76,17 @@ std::string Datei_Text(const Test1_Ergebnis& e)
 
 } // namespace
 
-Test1_Ergebnis Test1_Durchfuehren()
+Test1_Ergebnis Test1_Durchfuehren_Mit(std::uint8_t (*Durchschieben)(std::uint8_t))
 {
     Test1_Ergebnis Ergebnis;
     Zaehler_Ruecksetzen();
     Adj_512 = Adj_257 = 0;
     for (int Wert = 0; Wert < 256; ++Wert)
-        Wert_Pruefen(Ergebnis, static_cast<std::uint8_t>(Wert));
+        Wert_Pruefen(Ergebnis, static_cast<std::uint8_t>(Wert), Durchschieben);
     return Ergebnis;
 }
+
+Test1_Ergebnis Test1_Durchfuehren() { return Test1_Durchfuehren_Mit(Byte_Durchschieben); }
 
 Text_Paar Test1_Titel(const Test1_Ergebnis& Ergebnis)
 {
@@ -124,11 +126,9 @@ bool Test1_Datei_Schreiben(const Test1_Ergebnis& Ergebnis)
     return false;
 }
 
-Test1_Ergebnis Eprommer_Test1()
+const Test1_Ergebnis& Test1_Melden(const Test1_Ergebnis& Ergebnis)
 {
-    const Geraet_Wahrung Wahrung;
-    Test1_Ergebnis       Ergebnis = Test1_Durchfuehren();
-    Antwort                       = Antwort_Abbrechen;
+    Antwort = Antwort_Abbrechen;
     Melden(Test1_Text(Ergebnis),
            Test1_Titel(Ergebnis),
            Knoepfe::Ok_Abbrechen,
@@ -136,6 +136,12 @@ Test1_Ergebnis Eprommer_Test1()
     if (Ergebnis.Fehler > 0)
         Test1_Datei_Schreiben(Ergebnis);
     return Ergebnis;
+}
+
+Test1_Ergebnis Eprommer_Test1()
+{
+    const Geraet_Wahrung Wahrung;
+    return Test1_Melden(Test1_Durchfuehren());
 }
 
 } // namespace varnholt

@@ -1,4 +1,4 @@
-// Test 1 of the Eprommer, the automatic one: all 256 bytes through the 74HC595 and back through the
+// Test 1 of both boards, the automatic one: all 256 bytes through the 74HC595 and back through the
 // 74HC157.
 #pragma once
 
@@ -19,7 +19,12 @@ struct Test1_Ergebnis {
     std::string        Werte{};      // a line "SOLL:" wanted " IST: " read for each wrong value
 };
 
-// Runs the 256 values; shows nothing.
+// Runs the 256 values through a board, whose way of shifting is given; shows nothing.
+// reads: the device's settling time   sets: Adj_512, Adj_257
+Test1_Ergebnis Test1_Durchfuehren_Mit(std::uint8_t (*Durchschieben)(std::uint8_t));
+// The box with the outcome and, after errors, its file.   sets: Antwort
+const Test1_Ergebnis& Test1_Melden(const Test1_Ergebnis& Ergebnis);
+// The same with the bytes of the Eprommer.
 // reads: the device's settling time   sets: Adj_512, Adj_257, Schiebe_Bits
 Test1_Ergebnis Test1_Durchfuehren();
 

@@ -3,8 +3,11 @@
 
 #include "core/commands.h"
 #include "core/messages.h"
+#include "core/session.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
+#include "programmer/ATMEL_Zugriff.h"
+#include "programmer/Atmel_Zugriff_II.h"
 #include "programmer/Baustein.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Signale.h"
@@ -15,21 +18,12 @@
 namespace varnholt {
 namespace {
 
-constexpr std::int32_t Bank_Grenze   = 0x40000; // from here on address bit 18 is `Bank`
-constexpr std::int32_t Versatz_28C64 = 8192;    // counter position of a 28C64's address 0
-constexpr std::int32_t Block_Groesse = 16384; // behind each, devices without counter bit 14 skip it
-
 constexpr std::string_view Lese_Text_D  = " wird gelesen...";
 constexpr std::string_view Lese_Text_E  = " Reading ";
 constexpr std::string_view Pruef_Text_D = " - Daten werden überprüft...";
 constexpr std::string_view Pruef_Text_E = " Verify data ";
 
 bool Hat_Bank(std::string_view P_Typ) { return P_Typ == "28C040" || P_Typ == "29C040"; }
-
-bool Ohne_Zaehler_14(std::string_view R_Typ)
-{
-    return R_Typ == "28C010" || R_Typ == "28C256" || R_Typ == "28C040";
-}
 
 // What holds for all addresses of one read.
 struct Lesung_T {
@@ -68,27 +62,10 @@ Text_Paar Prozent_Text(int Wert)
             fmt::format("{}{}... {}%", Name, Vorgang_E(), Wert)};
 }
 
-void Dialog_Oeffnen()
-{
-    if (!Pruef_Modus) {
-        Fenster_Sperren();
-        Plattform.Status->Oeffnen();
-    }
-    Plattform.Status->Text(In_Sprache(Anfangs_Text()));
-}
-
 void Dialog_Schliessen()
 {
     Plattform.Status->Schliessen();
     Fenster_Freigeben();
-}
-
-// Clears the cancel and tells the caller of it.
-void Lesen_Aufgeben()
-{
-    Abbruch = false;
-    Antwort = Antwort_Abbrechen;
-    Dialog_Schliessen();
 }
 
 bool Seite_Erledigt(std::int32_t Seite)
@@ -107,17 +84,6 @@ void Seiten_Uebergehen(const Lesung_T& l)
     }
 }
 
-void Fortschritt_Zeigen(std::int32_t Bytes)
-{
-    Prozent_Jetzt = Bytes > 1 ? static_cast<int>(100LL * Adresse_Zaehler / (Bytes - 1)) : 0;
-    if (Prozent_Jetzt <= Prozent_Gezeigt)
-        return;
-    Prozent_Gezeigt = Prozent_Jetzt = std::min(Prozent_Jetzt, 100);
-    Plattform.Status->Text(In_Sprache(Prozent_Text(Prozent_Jetzt)));
-    Plattform.Status->ProgBar(Prozent_Jetzt);
-    Plattform.Ereignisse->Eine_Runde();
-}
-
 // Reads the byte that the counters point at; the closing 79 is the first half of the counter step.
 std::uint8_t Byte_Lesen()
 {
@@ -134,7 +100,7 @@ bool Adresse_Lesen(const Lesung_T& l)
     if (Adresse_Zaehler == Bank_Grenze && l.Mit_Bank)
         Bank = 1;
     Hoch_Bits_Setzen();
-    Fortschritt_Zeigen(l.Bytes);
+    Lese_Fortschritt_Zeigen(l.Bytes);
     if (Abbruch) {
         Daten_Senden(74);
         return false;
@@ -157,20 +123,6 @@ bool Alle_Adressen_Lesen(const Lesung_T& l)
         if (!Adresse_Lesen(l))
             return false;
     }
-}
-
-void Lesen_Beenden()
-{
-    Daten_Senden(74);
-    Plattform.Status->ProgBar(100);
-    const Text_Paar Hinweis{"   Es sind mehrere Durchläufe erforderlich, bitte nicht abbrechen.",
-                            "   More than one passes are neccessary. Please don't abort this."};
-    Plattform.Status->Text(In_Sprache(Prozent_Text(100)) +
-                           (Pruef_Modus ? In_Sprache(Hinweis) : std::string{}));
-    if (Pruef_Modus)
-        return;
-    Plattform.Port->Sleep(75);
-    Dialog_Schliessen();
 }
 
 // The question about unsaved work: true when the command may go on.
@@ -215,6 +167,47 @@ void Ansichten_Nach_Lesen()
 
 } // namespace
 
+void Lese_Dialog_Oeffnen()
+{
+    if (!Pruef_Modus) {
+        Fenster_Sperren();
+        Plattform.Status->Oeffnen();
+    }
+    Plattform.Status->Text(In_Sprache(Anfangs_Text()));
+}
+
+void Lese_Fortschritt_Zeigen(std::int32_t Bytes)
+{
+    Prozent_Jetzt = Bytes > 1 ? static_cast<int>(100LL * Adresse_Zaehler / (Bytes - 1)) : 0;
+    if (Prozent_Jetzt <= Prozent_Gezeigt)
+        return;
+    Prozent_Gezeigt = Prozent_Jetzt = std::min(Prozent_Jetzt, 100);
+    Plattform.Status->Text(In_Sprache(Prozent_Text(Prozent_Jetzt)));
+    Plattform.Status->ProgBar(Prozent_Jetzt);
+    Plattform.Ereignisse->Eine_Runde();
+}
+
+void Lesen_Aufgeben()
+{
+    Abbruch = false;
+    Antwort = Antwort_Abbrechen;
+    Dialog_Schliessen();
+}
+
+void Lesen_Beenden(int Ruhe_Byte)
+{
+    Daten_Senden(Ruhe_Byte);
+    Plattform.Status->ProgBar(100);
+    const Text_Paar Hinweis{"   Es sind mehrere Durchläufe erforderlich, bitte nicht abbrechen.",
+                            "   More than one passes are neccessary. Please don't abort this."};
+    Plattform.Status->Text(In_Sprache(Prozent_Text(100)) +
+                           (Pruef_Modus ? In_Sprache(Hinweis) : std::string{}));
+    if (Pruef_Modus)
+        return;
+    Plattform.Port->Sleep(75);
+    Dialog_Schliessen();
+}
+
 Lese_Weg Lese_Weg_Von(std::string_view R_Typ, int Board)
 {
     for (const std::string_view Familie : {"27", "28", "29", "87"})
@@ -222,16 +215,13 @@ Lese_Weg Lese_Weg_Von(std::string_view R_Typ, int Board)
             return Lese_Weg::Eprommer;
     if (Board == Board_Nr_Tessel2)
         return Lese_Weg::Tessel2;
-    for (const std::string_view Typ : {"89C1051", "89C2051", "89C4051"})
-        if (R_Typ == Typ)
-            return Lese_Weg::Tessel1;
-    return Lese_Weg::Keiner;
+    return Typ_Auf_Tessel1(R_Typ) ? Lese_Weg::Tessel1 : Lese_Weg::Keiner;
 }
 
 bool Lesen_Bedient()
 {
     const Geraet_T& Geraet = Gewaehltes_Geraet();
-    return Lese_Weg_Von(Geraet.R_Typ, Geraet.Programmer) == Lese_Weg::Eprommer;
+    return Lese_Weg_Von(Geraet.R_Typ, Geraet.Programmer) != Lese_Weg::Keiner;
 }
 
 void Speicher_Lesen()
@@ -243,28 +233,36 @@ void Speicher_Lesen()
     if (Antwort == Antwort_Abbrechen)
         return;
     const Lesung_T Lesung = Lesung_Einrichten();
-    Dialog_Oeffnen();
+    Lese_Dialog_Oeffnen();
     Zaehler_Ruecksetzen_Lesen();
     Plattform.Status->ProgBar(1);
     if (Abbruch || !Alle_Adressen_Lesen(Lesung))
         Lesen_Aufgeben();
     else
-        Lesen_Beenden();
+        Lesen_Beenden(74);
 }
 
 void Baustein_Lesen()
 {
-    if (Lesen_Bedient())
-        Speicher_Lesen();
-    else
+    const Geraet_T& Geraet = Gewaehltes_Geraet();
+    switch (Lese_Weg_Von(Geraet.R_Typ, Geraet.Programmer)) {
+    case Lese_Weg::Eprommer:
+        return Speicher_Lesen();
+    case Lese_Weg::Tessel1:
+        return Tessel1_Lesen();
+    case Lese_Weg::Tessel2:
+        return Tessel2_Lesen();
+    case Lese_Weg::Keiner:
         Antwort = Antwort_Abbrechen;
+    }
 }
 
 void MNU_IC_Lesen_Click()
 {
+    Sitzung_Beenden();
     if (!Porttreiber_Bereit() || !Baustein_Gewaehlt() || !Ungesichertes_Freigegeben())
         return;
-    if (!Lesen_Bedient()) { // no board to read from: the image stays as it is
+    if (!Lesen_Bedient()) { // no routine for its type: the image stays as it is
         Antwort = Antwort_Abbrechen;
         return;
     }

@@ -9,7 +9,7 @@ namespace varnholt {
 // The routine that reads a device, by its read type and its board.
 enum class Lese_Weg { Eprommer, Tessel1, Tessel2, Keiner };
 Lese_Weg Lese_Weg_Von(std::string_view R_Typ, int Board);
-// True when the selected device can be read: the two microcontroller boards aren't served yet.
+// True when there is a routine that reads the selected device.
 [[nodiscard]] bool Lesen_Bedient();
 
 // The Eprommer's read routine: addresses 0 to size - 1 into Hex_Puffer, which the caller has sized.
@@ -17,8 +17,18 @@ Lese_Weg Lese_Weg_Von(std::string_view R_Typ, int Board);
 // reads: the device's record, Pruef_Modus, Seiten_Liste, Abbruch
 // sets: Hex_Puffer, Adresse_Zaehler, Adj_257, Bank, Hoch_Bits, Antwort, Abbruch
 void Speicher_Lesen();
-// Reads the selected device by its own routine; Antwort is 2 where none is served.
+// Reads the selected device by the routine of its type; Antwort is 2 where there is none.
 void Baustein_Lesen();
+
+// ---- The frame of every read, also of the microcontrollers' ----
+
+void Lese_Dialog_Oeffnen();
+// A percentage that grew is shown, and the user interface breathes.   reads: Adresse_Zaehler
+void Lese_Fortschritt_Zeigen(std::int32_t Bytes);
+// Given up: clears Abbruch, tells the caller by Antwort, closes the dialog.
+void Lesen_Aufgeben();
+// Read to the end: the data register comes to rest at Ruhe_Byte, the dialog shows 100 % and closes.
+void Lesen_Beenden(int Ruhe_Byte);
 
 // The device replaces the image.
 // reads: Datei_Geaendert, Modus   sets: Hex_Daten, Datei_Name, Datei_Geaendert, Text_Aktuell,

@@ -47,7 +47,7 @@ std::vector<std::string> Parallelports()
     return Liste;
 }
 
-// A device whose board isn't simulated leaves an Eprommer with an empty socket.
+// A number without a device leaves an Eprommer with an empty socket.
 std::unique_ptr<Porttreiber> Simulierter_Treiber()
 {
     if (auto Board = Simuliertes_Board_Fuer(IC_Nummer))

@@ -55,18 +55,6 @@ bool Verbindung_Da()
     return Gelesen == Pruef_Muster;
 }
 
-// Cancel is the answer where no box can appear, so that the check can't go on for ever.
-bool Nochmal_Versuchen()
-{
-    Antwort = Antwort_Abbrechen;
-    Melden({"Bitte überprüfen Sie ob der Brenner richtig angeschlossen und eingeschaltet ist !",
-            "Please check the power supply and the connection to the programmer!"},
-           {"Achtung !", "Attention !"},
-           Knoepfe::Ok_Abbrechen,
-           Symbol::Frage);
-    return Antwort != Antwort_Abbrechen;
-}
-
 } // namespace
 
 C2_Regel C2_Regel_Von(std::string_view R_Typ, std::string_view P_Typ, bool Beim_Lesen)
@@ -134,6 +122,18 @@ void Byte_Laden(std::uint8_t Wert)
     Daten_Senden(27 - Adj_257);
 }
 
+void Byte_Schieben(std::uint8_t Wert, int Basis)
+{
+    Schiebe_Bits = Bits_Von(Wert);
+    for (std::size_t i = 8; i-- > 0;) {
+        Daten_Senden(Basis + Schiebe_Bits[i]);
+        Daten_Senden(Basis + 32 + Schiebe_Bits[i]);
+    }
+    Daten_Senden(Basis - 64);
+    Daten_Senden(Basis);
+    Daten_Senden(Basis - 64);
+}
+
 bool Byte_Auf_Bus(std::uint8_t Wert) { return Bus_Lesen(2 * Lese_Zeit(), 155 - Adj_257) == Wert; }
 
 std::uint8_t Bus_Lesen(std::int64_t Vor_Gerade, int Auswahl)
@@ -145,11 +145,26 @@ std::uint8_t Bus_Lesen(std::int64_t Vor_Gerade, int Auswahl)
     return static_cast<std::uint8_t>(Gerade + Ungerade_Bits(Status_Lesen()));
 }
 
+// Cancel is the answer where no box can appear, so that a check can't go on for ever.
+bool Nochmal_Fragen(const Text_Paar& Text)
+{
+    Antwort = Antwort_Abbrechen;
+    Melden(Text, {"Achtung !", "Attention !"}, Knoepfe::Ok_Abbrechen, Symbol::Frage);
+    return Antwort != Antwort_Abbrechen;
+}
+
+bool Board_Nochmal_Pruefen()
+{
+    return Nochmal_Fragen(
+        {"Bitte überprüfen Sie ob der Brenner richtig angeschlossen und eingeschaltet ist !",
+         "Please check the power supply and the connection to the programmer!"});
+}
+
 void Brenner_Pruefen()
 {
     if (!C_Brenner)
         return;
-    while (!Verbindung_Da() && Nochmal_Versuchen()) {
+    while (!Verbindung_Da() && Board_Nochmal_Pruefen()) {
     }
 }
 

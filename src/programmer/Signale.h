@@ -1,6 +1,7 @@
 // The signals of the Eprommer: the byte sequences that all of its device routines are made of.
 #pragma once
 
+#include "core/messages.h"
 #include "programmer/Brenner_Zustand.h"
 
 #include <array>
@@ -45,6 +46,16 @@ constexpr int Hoch_Bits_Von(std::int32_t Adresse, C2_Regel C2)
 static_assert(Hoch_Bits_Von(0, C2_Regel::Null) == 9 && Hoch_Bits_Von(0x30000, C2_Regel::Null) == 0);
 static_assert(Hoch_Bits_Von(0x40000, C2_Regel::Adr_18) == 13);
 
+inline constexpr std::int32_t Bank_Grenze   = 0x40000; // from here on address bit 18 is `Bank`
+inline constexpr std::int32_t Versatz_28C64 = 8192;    // counter position of a 28C64's address 0
+inline constexpr std::int32_t Block_Groesse = 16384;   // see Ohne_Zaehler_14
+
+// Devices that see counter bit 15 where others have bit 14: behind each block they step over it.
+constexpr bool Ohne_Zaehler_14(std::string_view Typ)
+{
+    return Typ == "28C010" || Typ == "28C256" || Typ == "28C040";
+}
+
 // What C2 carries for a device of these types; in a read also for the 29C040.
 C2_Regel C2_Regel_Von(std::string_view R_Typ, std::string_view P_Typ, bool Beim_Lesen);
 
@@ -82,11 +93,18 @@ std::int64_t Lese_Zeit();
 void Hoch_Bits_Setzen();
 // Shifts Wert into the 74HC595 and puts it on the bus.   sets: Schiebe_Bits
 void Byte_Laden(std::uint8_t Wert);
+// The same for the EEPROM and flash routines: shifts with the byte Basis, and leaves Wert on the bus
+// with the strobe that follows from it (90: 26, 90, 26).   sets: Schiebe_Bits
+void Byte_Schieben(std::uint8_t Wert, int Basis);
 // Reads the bus after a load: true when it carries Wert.
 [[nodiscard]] bool Byte_Auf_Bus(std::uint8_t Wert);
 // Two status reads, even bits then odd bits: waits Vor_Gerade, reads, sends Auswahl, waits
 // Lese_Zeit, reads.
 std::uint8_t Bus_Lesen(std::int64_t Vor_Gerade, int Auswahl);
+
+// The questions of a check that failed: true when it is to be made again.   sets: Antwort
+[[nodiscard]] bool Nochmal_Fragen(const Text_Paar& Text);
+[[nodiscard]] bool Board_Nochmal_Pruefen();
 
 // The connection check: proves that a board is there and has power. Asks until it is or the user
 // gives up, which leaves Antwort at 2. Does nothing with the option C_Brenner off.

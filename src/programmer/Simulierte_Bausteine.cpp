@@ -65,6 +65,15 @@ Simulierter_Baustein::Bits_Nach_Puls(Zelle_T& Zelle, std::uint8_t Bits, std::int
     return Fertig;
 }
 
+void Simulierter_Baustein::Loeschen()
+{
+    std::fill(Inhalt.begin(), Inhalt.end(), std::uint8_t{0xFF});
+    for (auto& [Adresse, Zelle] : Besondere) {
+        Zelle.Summe = {};
+        Zelle.Pulse = {};
+    }
+}
+
 void Simulierter_Baustein::Schwache_Zelle(std::uint32_t Adresse, int Pulse, double Faktor)
 {
     Zelle_T& Zelle     = Besondere[Adresse];

@@ -24,6 +24,10 @@ public:
         return static_cast<double>(++Mikrosekunden) / 1e6;
     }
     void Wartet(std::int64_t Dauer) override { Vorstellen(Dauer); }
+    void Wartet_Seit(std::int64_t Anfang, std::int64_t Dauer) override
+    {
+        Vorstellen(Dauer - (Mikrosekunden - Anfang));
+    }
     // One microsecond more than asked, so that the rounding of the sum can't keep the wait going.
     void Sekunden_Wartet(double Sekunden) override
     {

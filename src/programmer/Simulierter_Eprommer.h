@@ -8,7 +8,7 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
+#include <memory>
 
 namespace varnholt {
 
@@ -26,15 +26,17 @@ struct Board_Fehler {
     bool         Tot            = false; // no supply: nothing answers, the status lines float
     std::uint8_t Tot_Status     = 0x7F;  // what floating status lines read as
     bool         Baustein_Stumm = false; // the device neither answers nor takes a pulse
+    bool Draht_Vergessen = false; // the wire of a 27SF erase was not moved when the program asked
 };
 
 class Simulierter_Eprommer : public Simuliertes_Board {
 public:
     // An empty socket, or one wired for the device in it.
     Simulierter_Eprommer() = default;
-    Simulierter_Eprommer(const Verdrahtung_T& Sockel, Simulierter_Baustein Eingesteckt);
+    Simulierter_Eprommer(const Verdrahtung_T&                  Sockel,
+                         std::unique_ptr<Simulierter_Baustein> Eingesteckt);
 
-    Simulierter_Baustein* Baustein() override { return Im_Sockel ? &*Im_Sockel : nullptr; }
+    Simulierter_Baustein* Baustein() override { return Im_Sockel.get(); }
 
     int          KS_openDriver() override { return 0; }
     int          KS_enableIoRange(std::int32_t Adresse, int Anzahl) override;
@@ -53,20 +55,33 @@ public:
     std::int64_t  Buskonflikte() const { return Konflikte; } // writes with two drivers on the bus
 
 private:
-    void          Daten_Schreiben(std::uint8_t Wert);
-    void          Steuerung_Schreiben(std::uint8_t Wert);
-    void          Pegel_Folgen();
-    void          Puls_Beenden();
+    void         Daten_Schreiben(std::uint8_t Wert);
+    void         Steuerung_Schreiben(std::uint8_t Wert);
+    void         Pegel_Folgen(const Pegel_T& Vorher);
+    void         Puls_Beenden();
+    void         Schreib_Flanken(const Pegel_T& Vorher);
+    void         Versorgung_Folgen();
+    void         Schreib_Strobe_Folgen(const Pegel_T& Vorher);
+    void         Loeschpuls_Folgen(const Pegel_T& Vorher);
+    void         Ladung_Merken(const Pegel_T& Danach, std::uint8_t Daten_Danach);
+    std::uint8_t Bus_Beim_Schreiben() const;
+    std::uint8_t Mit_Fehlern(unsigned Wert) const
+    {
+        return static_cast<std::uint8_t>((Wert & ~unsigned{Fehler.Klemmt_Auf_0}) |
+                                         Fehler.Klemmt_Auf_1);
+    }
     std::uint32_t Adresse_Jetzt() const
     {
         return Adresse_Von(Verdrahtung, Zaehler, Daten, Steuerung);
     }
-    bool           Baustein_Aktiv() const { return Im_Sockel && !Fehler.Baustein_Stumm; }
+    bool Baustein_Aktiv() const { return Im_Sockel && !Fehler.Baustein_Stumm; }
+    bool Angewaehlt() const { return !Verdrahtung.A13_Waehlt || (Zaehler & 0x2000u) != 0; }
     const Pegel_T& Pegel() const { return Pegel_Tabelle[Steuerung & 15u][Daten]; }
 
     Verdrahtung_T                            Verdrahtung{};
-    std::optional<Simulierter_Baustein>      Im_Sockel{};
-    std::array<std::array<Pegel_T, 256>, 16> Pegel_Tabelle{};  // by control and data
+    std::unique_ptr<Simulierter_Baustein>    Im_Sockel{};
+    bool                                     Mit_Schreibleitung = false; // the device has one
+    std::array<std::array<Pegel_T, 256>, 16> Pegel_Tabelle{};            // by control and data
     std::int32_t                             Basis        = 0; // address of the data register
     std::uint8_t                             Daten        = 0; // last value of the data register
     std::uint8_t                             Steuerung    = 0; // last value of the control register
@@ -78,8 +93,15 @@ private:
     std::int64_t                             Puls_Beginn  = 0; // simulated microseconds
     std::uint32_t                            Puls_Adresse = 0;
     std::uint8_t                             Puls_Bus     = 0;
-    std::int64_t                             Geschrieben  = 0;
-    std::int64_t                             Konflikte    = 0;
+    std::uint8_t                             Ladung       = 0; // what the bus lines were left at
+    std::int64_t                             Ladung_Zeit  = 0; // when they were left alone
+    bool          Versorgt        = false; // what the device knows of its programming supply
+    bool          Schreib_Gilt    = false; // a write cycle runs, and the device is selected
+    std::uint32_t Schreib_Adresse = 0;     // as it was when the write line fell
+    std::int64_t  Schreib_Beginn  = 0;
+    std::int64_t  Loesch_Beginn   = 0;
+    std::int64_t  Geschrieben     = 0;
+    std::int64_t  Konflikte       = 0;
 };
 
 } // namespace varnholt

@@ -92,7 +92,7 @@ void Warte_Sekunden(double Sekunden)
 void Puls_Abwarten(std::int64_t Dauer)
 {
     Dauer = std::min(Dauer, Wartezeit_Hoechstens);
-    Plattform.Port->Wartet(Dauer);
+    Plattform.Port->Wartet_Seit(Puls_Anfang, Dauer);
     do
         Puls_Jetzt = Maschinenzeit();
     while (!Wartezeit_Um(Puls_Anfang, Puls_Jetzt, Dauer));

@@ -34,6 +34,7 @@ constexpr Verdrahtung_T Verdrahtungen[] = {
     {"28F080",   V::Eigener_Pin, S::C2,      A::C2,     true,   false,  false,  false},
     {"28F",      V::Eigener_Pin, S::C2,      A::Keine,  true,   false,  false,  false},
     {"29C040",   V::Keine,       S::C2,      A::D0,     true,   false,  false,  false},
+    {"29C0",     V::Keine,       S::C2,      A::Keine,  true,   false,  false,  false},
     {"29C",      V::Keine,       S::D3,      A::Keine,  true,   false,  false,  false},
     {"",         V::Keine,       S::Auswahl, A::Keine,  true,   false,  false,  false},
 };
@@ -45,12 +46,6 @@ const Verdrahtung_T& Zeile_Fuer(std::string_view Typ)
         if (Typ.starts_with(Zeile.Typ))
             return Zeile;
     return Verdrahtungen[0];
-}
-
-// The families whose cells the programming pulse of the EPROMs reaches.
-bool Eprom_Zellen(const Verdrahtung_T& v)
-{
-    return v.Typ.starts_with("27") || v.Typ.starts_with("87");
 }
 
 enum Spannung_T { Null_Volt, Fuenf_Volt, Brennspannung };
@@ -71,7 +66,7 @@ bool Ausgabe_Frei(const Verdrahtung_T& v, std::uint8_t Daten)
 
 bool Gewaehlt(const Verdrahtung_T& v, std::uint8_t Daten)
 {
-    return !Eprom_Zellen(v) || (Daten & (8 | 16)) != (8 | 16);
+    return !Hat_Eprom_Zellen(v) || (Daten & (8 | 16)) != (8 | 16);
 }
 
 bool Strobe_Tief(const Verdrahtung_T& v, std::uint8_t Daten, std::uint8_t Steuerung)
@@ -81,25 +76,47 @@ bool Strobe_Tief(const Verdrahtung_T& v, std::uint8_t Daten, std::uint8_t Steuer
     return v.Strobe == S::Auswahl || (Daten & 8) == 0;
 }
 
+bool Schreib_Leitung_Tief(const Verdrahtung_T& v, std::uint8_t Daten, std::uint8_t Steuerung)
+{
+    return !Hat_Eprom_Zellen(v) && v.Strobe != S::Auswahl && Strobe_Tief(v, Daten, Steuerung);
+}
+
+// 12 V at the output enable. Where D0 is an address line, that line alone doesn't bring them.
+bool Loesch_Spannung(const Verdrahtung_T& v, std::uint8_t Daten)
+{
+    return v.Loesch_12V && (Daten & (v.A18 == A::D0 ? 3 : 2)) == 0;
+}
+
 } // namespace
 
-// The 27, 87 and 28F parts are told apart by their programming, the others by how they are read.
+bool Hat_Eprom_Zellen(const Verdrahtung_T& v)
+{
+    return v.Typ.starts_with("27") || v.Typ.starts_with("87");
+}
+
+// The 27, 87, 28F and larger 29C parts are told apart by their programming, the others by how they
+// are read.
 const Verdrahtung_T& Verdrahtung_Fuer(std::string_view R_Typ, std::string_view P_Typ)
 {
-    const bool Nach_P =
-        P_Typ.starts_with("27") || P_Typ.starts_with("87") || P_Typ.starts_with("28F");
+    const bool Nach_P = P_Typ.starts_with("27") || P_Typ.starts_with("87") ||
+                        P_Typ.starts_with("28F") || P_Typ.starts_with("29C0");
     return Zeile_Fuer(Nach_P ? P_Typ : R_Typ);
 }
 
 Pegel_T Pegel_Von(const Verdrahtung_T& v, std::uint8_t Daten, std::uint8_t Steuerung)
 {
-    const bool Frei  = Ausgabe_Frei(v, Daten);
+    const bool Hoch  = Loesch_Spannung(v, Daten);
+    const bool Frei  = Ausgabe_Frei(v, Daten) && !Hoch;
     const bool Aktiv = Gewaehlt(v, Daten);
     Pegel_T    Pegel;
-    Pegel.Puls = Eprom_Zellen(v) && Aktiv && !Frei && Spannung_Von(Daten) == Brennspannung &&
+    Pegel.Puls = Hat_Eprom_Zellen(v) && Aktiv && !Frei && Spannung_Von(Daten) == Brennspannung &&
                  Strobe_Tief(v, Daten, Steuerung);
     Pegel.Treibt       = Aktiv && Frei;
     Pegel.Durchlaessig = !v.Latch || Spannung_Von(Daten) != Null_Volt;
+    Pegel.Strobe       = Schreib_Leitung_Tief(v, Daten, Steuerung);
+    Pegel.Schreibt     = Pegel.Strobe && !Frei && !Hoch;
+    Pegel.Loescht      = Pegel.Strobe && Hoch;
+    Pegel.Versorgt     = v.Versorgung == V::Eigener_Pin && Spannung_Von(Daten) == Brennspannung;
     return Pegel;
 }
 

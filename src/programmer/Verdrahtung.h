@@ -24,7 +24,8 @@
 //
 // Devices with their output enable and their programming supply on one pin (27C512, 27C080,
 // 27SF512) have pin 24 at the supply: 0 V reads, 12.5 V programs. The 87C257 has its address latch
-// at the supply too (pin 3): 0 V holds the address, more lets it through. A device of the type
+// at the supply too (pin 3): 0 V holds the address, more lets it through. Devices with a 12 V clear
+// have their output enable at D4 and, while the supply is on, at 12 V. A device of the type
 // 28C64 is selected by a high level at its pin 26, where A13 of larger ones lies.
 #pragma once
 
@@ -47,6 +48,7 @@ struct Verdrahtung_T {
     bool A15_An_C2  = false;
     bool Latch      = false; // address latch at the supply
     bool A13_Waehlt = false; // counter bit 13 is a chip enable, active high
+    bool Loesch_12V = false; // pin 24 gets 12 V from the supply too, for the clear of a 28C
 };
 
 // The wiring for a device with these type texts.
@@ -54,11 +56,21 @@ const Verdrahtung_T& Verdrahtung_Fuer(std::string_view R_Typ, std::string_view P
 
 // What one pair of data and control values means to the device.
 struct Pegel_T {
-    bool Puls         = false; // supply on, selected, outputs off, strobe low: cells are programmed
-    bool Treibt       = false; // the device drives the data bus
-    bool Durchlaessig = true;  // the address latch is open
+    bool Puls : 1   = false; // supply on, selected, outputs off, strobe low: cells are programmed
+    bool Treibt : 1 = false; // the device drives the data bus
+    bool Durchlaessig : 1 = true;  // the address latch is open
+    bool Strobe : 1       = false; // write line low; always false for the EPROMs
+    bool Schreibt : 1     = false; // write line low while the outputs are off: a write cycle
+    bool Loescht : 1      = false; // write line low with 12 V at pin 24: a 28C is cleared
+    bool Versorgt : 1     = false; // programming supply at the pin of its own
+
+    bool operator==(const Pegel_T&) const = default;
 };
 Pegel_T Pegel_Von(const Verdrahtung_T& Verdrahtung, std::uint8_t Daten, std::uint8_t Steuerung);
+
+// The families whose cells the programming pulse of the EPROMs reaches; the others have a write
+// line.
+bool Hat_Eprom_Zellen(const Verdrahtung_T& Verdrahtung);
 
 // Device address from the counters and the port lines.
 std::uint32_t Adresse_Von(const Verdrahtung_T& Verdrahtung,

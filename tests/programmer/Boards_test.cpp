@@ -1,6 +1,8 @@
 // Which board a device gets, and the socket that is kept in a file.
 #include "core/shared_state.h"
 #include "programmer/Brenner_Welt.h"
+#include "programmer/Simulierter_Tessel1.h"
+#include "programmer/Simulierter_Tessel2.h"
 
 #include <filesystem>
 #include <fstream>
@@ -46,11 +48,15 @@ TEST_F(Boards_Test, an_eprommer_device_gets_an_eprommer_with_an_erased_device)
     EXPECT_EQ(Brett->Baustein()->Sperr_Stufe, 0);
 }
 
-TEST_F(Boards_Test, the_boards_of_the_microcontrollers_are_not_simulated_yet)
+TEST_F(Boards_Test, board_3_is_the_tessel2_and_any_other_but_1_the_tessel1)
 {
-    for (const int Board_Nummer : {0, 2, 3}) {
+    for (const int Board_Nummer : {0, 2, 3, 99}) {
         Geraet("89C51", 16).Programmer = Board_Nummer;
-        EXPECT_EQ(Simuliertes_Board_Fuer(0), nullptr);
+        const auto b                   = Simuliertes_Board_Fuer(0);
+        ASSERT_NE(b, nullptr);
+        EXPECT_EQ(dynamic_cast<Simulierter_Tessel2*>(b.get()) != nullptr, Board_Nummer == 3);
+        EXPECT_EQ(dynamic_cast<Simulierter_Tessel1*>(b.get()) != nullptr, Board_Nummer != 3);
+        EXPECT_EQ(b->Baustein()->Inhalt, std::vector<std::uint8_t>(16, 0xFF));
     }
 }
 

@@ -427,9 +427,9 @@ TEST_F(Lesen_Test, the_read_type_and_then_the_board_choose_the_routine)
     EXPECT_EQ(Lese_Weg_Von("", 0), Lese_Weg::Keiner);
 }
 
-TEST_F(Lesen_Test, a_microcontroller_is_not_served_yet_and_leaves_the_image_alone)
+TEST_F(Lesen_Test, a_type_without_a_routine_leaves_the_image_alone)
 {
-    Geraet("89C51", 4096).Programmer = 3;
+    Geraet("48X", 4096).Programmer = 2;
     EXPECT_FALSE(Lesen_Bedient());
     Porttreiber_OK = true;
     Hex_Daten[0]   = 0x42;
@@ -441,6 +441,15 @@ TEST_F(Lesen_Test, a_microcontroller_is_not_served_yet_and_leaves_the_image_alon
 }
 
 // ---- menu command ----
+
+TEST_F(Lesen_Test, the_command_ends_a_debugger_session_first)
+{
+    Debugger_Aktiv = true;
+    Porttreiber_OK = false;
+    MNU_IC_Lesen_Click();
+    EXPECT_FALSE(Debugger_Aktiv);
+    EXPECT_EQ(Box.Meldungen.size(), 1u) << "then the port is asked for";
+}
 
 TEST_F(Lesen_Test, the_command_replaces_the_image_by_the_device)
 {

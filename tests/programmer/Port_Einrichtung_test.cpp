@@ -8,6 +8,7 @@
 #include "programmer/Port_direkt.h"
 #include "programmer/Port_ppdev.h"
 #include "programmer/Simulierte_Boards.h"
+#include "programmer/Simulierter_Tessel2.h"
 #include "programmer/Special.h"
 
 #include <string>
@@ -52,10 +53,18 @@ TEST_F(Port_Einrichtung_Test, sim_without_a_device_gives_an_empty_socket)
     EXPECT_EQ(Board()->Baustein(), nullptr);
 }
 
-TEST_F(Port_Einrichtung_Test, a_device_whose_board_is_not_simulated_gives_an_empty_socket)
+TEST_F(Port_Einrichtung_Test, a_microcontroller_gives_its_own_board)
 {
-    Geraet(99);
+    Geraet(3);
     Port_Art = "sim";
+    Port_Einrichten();
+    EXPECT_NE(dynamic_cast<Simulierter_Tessel2*>(Plattform.Port), nullptr);
+}
+
+TEST_F(Port_Einrichtung_Test, a_number_without_a_device_gives_an_empty_socket)
+{
+    IC_Nummer = 5;
+    Port_Art  = "sim";
     Port_Einrichten();
     ASSERT_NE(Board(), nullptr);
     EXPECT_EQ(Board()->Baustein(), nullptr);

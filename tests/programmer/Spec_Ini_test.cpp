@@ -5,6 +5,8 @@
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Brennmenue.h"
 #include "programmer/Lesen.h"
+#include "programmer/Lockmenu.h"
+#include "programmer/Loeschen.h"
 #include "programmer/Simulierte_Boards.h"
 #include "programmer/Special.h"
 #include "programmer/Specifications.h"
@@ -320,9 +322,10 @@ protected:
 
     static void Jeder_Weg(const std::function<void(int, const Geraet_T&)>& Tun)
     {
-        std::set<std::tuple<std::string, std::string, std::int32_t>> Gesehen;
+        std::set<std::tuple<std::string, std::string, std::int32_t, std::int32_t>> Gesehen;
         Alle([&](int i, const Geraet_T& g) {
-            if (g.Programmer == 1 && Gesehen.insert({g.R_Typ, g.P_Typ, g.Bytes}).second)
+            if (g.Programmer == 1 &&
+                Gesehen.insert({g.R_Typ, g.P_Typ, g.Bytes, g.Seiten_Bytes}).second)
                 Tun(i, g);
         });
     }
@@ -378,6 +381,68 @@ TEST_F(Spec_Ini_Board, Every_device_with_an_EPROM_type_is_programmed_and_verifie
         EXPECT_TRUE(std::equal(Inhalt().begin(), Inhalt().end(), Hex_Daten.begin()));
     });
     EXPECT_EQ(Wege, 12);
+}
+
+// The routines of the other families. A 28F040 or 28F080 can't be programmed on the board: its
+// strobe is its highest address line.
+TEST_F(Spec_Ini_Board, Every_other_memory_device_is_programmed_and_verified)
+{
+    int Wege = 0;
+    Jeder_Weg([&](int Nummer, const Geraet_T& g) {
+        if (Beginnt_Mit_Einem(g.P_Typ, {"27", "87", "28F040", "28F080"}))
+            return;
+        ++Wege;
+        Einstecken(Nummer);
+        Bild_Fuellen(g.Bytes, Zufall);
+        C_IC_vor_B = true; // so that FFh bytes of an erased EEPROM needn't be written
+        Brennmenue_Oeffnen();
+        ED_LBA_D_Change(std::to_string(g.Bytes - 1));
+        Brennen_Click();
+        EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Fertig) << Letzte_Meldung();
+        EXPECT_TRUE(std::equal(Inhalt().begin(), Inhalt().end(), Hex_Daten.begin()));
+        EXPECT_TRUE(Box.Meldungen.empty());
+    });
+    EXPECT_EQ(Wege, 16);
+}
+
+TEST_F(Spec_Ini_Board, Every_device_with_an_electrical_erase_is_erased)
+{
+    Alle([&](int Nummer, const Geraet_T& g) {
+        if (g.Programmer != 1 || !Loeschen_Moeglich(g) || g.E_Typ == "29C" || g.Bytes > 65536)
+            return;
+        Einstecken(Nummer);
+        std::generate(
+            Inhalt().begin(), Inhalt().end(), [&] { return static_cast<std::uint8_t>(Zufall()); });
+        Box.Antworten = {Antwort_Ok, Antwort_Ok};
+        Baustein_Löschen();
+        EXPECT_EQ(Inhalt(), std::vector<std::uint8_t>(Inhalt().size(), 0xFF));
+        EXPECT_FALSE(Abbruch);
+    });
+}
+
+TEST_F(Spec_Ini_Board, Every_microcontroller_is_programmed_locked_and_erased_with_its_timings)
+{
+    int Teile = 0;
+    Alle([&](int Nummer, const Geraet_T& g) {
+        if (g.Programmer == 1)
+            return;
+        ++Teile;
+        Einstecken(Nummer);
+        Bild_Fuellen(g.Bytes, Zufall);
+        Brennmenue_Oeffnen();
+        Brennmenue.Löschen = false;
+        Brennen_Click();
+        EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Fertig) << Letzte_Meldung();
+        EXPECT_TRUE(std::equal(Inhalt().begin(), Inhalt().end(), Hex_Daten.begin()));
+        Lockmenu_Oeffnen();
+        Lockmenu_Option_Click(3);
+        Lockmenu_Command1_Click();
+        EXPECT_EQ(Board->Baustein()->Sperr_Stufe, 3);
+        Baustein_Löschen();
+        EXPECT_EQ(Board->Baustein()->Sperr_Stufe, 0);
+        EXPECT_EQ(std::count(Inhalt().begin(), Inhalt().end(), 0xFF), g.Bytes);
+    });
+    EXPECT_EQ(Teile, 11);
 }
 
 } // namespace
