@@ -6,7 +6,7 @@ cd "$(dirname "$0")"
 . scripts/pakete.sh
 
 pakete_sichern g++ cmake ninja-build libfmt-dev libcli11-dev nlohmann-json3-dev \
-    qt6-base-dev qt6-svg-dev fonts-dejavu-core desktop-file-utils appstream mandoc \
+    qt6-base-dev qt6-svg-dev fonts-dejavu-core desktop-file-utils appstream mandoc poppler-utils \
     libgtest-dev librapidcheck-dev clang libclang-rt-14-dev
 
 cmake --preset dev

@@ -17,15 +17,16 @@ double In_Sekunden(const timeval& t)
     return static_cast<double>(t.tv_sec) + 1e-6 * static_cast<double>(t.tv_usec);
 }
 
-[[noreturn]] void Kind(const std::vector<std::string>& Befehl)
+[[noreturn]] void
+Kind(const std::vector<std::string>& Befehl, const std::string& Eingabe, const std::string& Ausgabe)
 {
     std::vector<char*> Argumente;
     for (const std::string& a : Befehl)
         Argumente.push_back(const_cast<char*>(a.c_str()));
     Argumente.push_back(nullptr);
-    const int Nichts = open("/dev/null", O_RDWR);
-    for (const int fd : {0, 1, 2})
-        dup2(Nichts, fd);
+    dup2(open(Eingabe.c_str(), O_RDONLY), 0);
+    dup2(open(Ausgabe.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), 1);
+    dup2(open("/dev/null", O_WRONLY), 2);
     execvp(Argumente[0], Argumente.data());
     _exit(127);
 }
@@ -52,12 +53,14 @@ Messung Mediane(const std::vector<Messung>& Laeufe)
 
 } // namespace
 
-Messung Laufen(const std::vector<std::string>& Befehl)
+Messung Laufen(const std::vector<std::string>& Befehl,
+               const std::string&              Eingabe,
+               const std::string&              Ausgabe)
 {
     const auto  Anfang = std::chrono::steady_clock::now();
     const pid_t pid    = fork();
     if (pid == 0)
-        Kind(Befehl);
+        Kind(Befehl, Eingabe, Ausgabe);
     int    Status = 0;
     rusage Verbrauch{};
     wait4(pid, &Status, 0, &Verbrauch);
@@ -82,11 +85,14 @@ Paar Paarweise(const std::vector<std::string>& A, const std::vector<std::string>
     return {Mediane(a), Mediane(b)};
 }
 
-Messung Mehrfach(const std::vector<std::string>& Befehl, int Laeufe)
+Messung Mehrfach(const std::vector<std::string>& Befehl,
+                 int                             Laeufe,
+                 const std::string&              Eingabe,
+                 const std::string&              Ausgabe)
 {
     std::vector<Messung> m;
     for (int i = 0; i <= Laeufe; ++i) {
-        const Messung n = Laufen(Befehl);
+        const Messung n = Laufen(Befehl, Eingabe, Ausgabe);
         if (i > 0)
             m.push_back(n);
     }

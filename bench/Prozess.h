@@ -14,14 +14,19 @@ struct Messung {
     int    Status      = 0; // exit status; 127 when the program can't be started
 };
 
-// One run with its output thrown away.
-Messung Laufen(const std::vector<std::string>& Befehl);
+// One run, its input read from a file, its output written to one.
+Messung Laufen(const std::vector<std::string>& Befehl,
+               const std::string&              Eingabe = "/dev/null",
+               const std::string&              Ausgabe = "/dev/null");
 
 // Medians of A and B, run in turn after one run of each that doesn't count.
 struct Paar {
     Messung A{}, B{};
 };
 Paar    Paarweise(const std::vector<std::string>& A, const std::vector<std::string>& B, int Laeufe);
-Messung Mehrfach(const std::vector<std::string>& Befehl, int Laeufe);
+Messung Mehrfach(const std::vector<std::string>& Befehl,
+                 int                             Laeufe,
+                 const std::string&              Eingabe = "/dev/null",
+                 const std::string&              Ausgabe = "/dev/null");
 
 } // namespace varnholt::bench

@@ -4,6 +4,7 @@
 #include "core/reset.h"
 #include "core/shared_state.h"
 #include "core/text_memory.h"
+#include "editors/HexSuche.h"
 #include "files/Dat.h"
 #include "files/Intel_Hex.h"
 #include "files/Motorola_S.h"
@@ -21,6 +22,7 @@
 #include <benchmark/benchmark.h>
 
 #include <span>
+#include <vector>
 
 namespace varnholt::bench {
 namespace {
@@ -164,6 +166,25 @@ void BM_Dat(benchmark::State& s)
     s.SetBytesProcessed(s.iterations() * Bild_Groesse);
 }
 BENCHMARK(BM_Dat)->ArgName("read")->Arg(0)->Arg(1);
+
+// A search in vain through the whole image: random bytes, erased ones, and those that begin the
+// pattern again and again.
+void BM_Hex_Suche(benchmark::State& s)
+{
+    Zufaelliges_Bild(Bild_Groesse);
+    if (s.range(0) != 0)
+        Hex_Daten.fill(static_cast<std::uint8_t>(s.range(0)));
+    const std::vector<std::uint8_t> Muster{0x12, 0x12, 0x12, 0x55};
+    for (auto _ : s)
+        benchmark::DoNotOptimize(Hex_Treffer(Hex_Daten, Muster, 0));
+    s.SetBytesProcessed(s.iterations() * Bild_Groesse);
+}
+BENCHMARK(BM_Hex_Suche)
+    ->ArgName("fill")
+    ->Arg(0)
+    ->Arg(0xFF)
+    ->Arg(0x12)
+    ->Unit(benchmark::kMillisecond);
 
 // Reading a simulated 27C512 edge by edge; counted in device bytes.
 void BM_Baustein_Lesen(benchmark::State& s)

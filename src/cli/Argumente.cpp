@@ -3,6 +3,7 @@
 
 #include "cli/Konsole.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <fstream>
@@ -51,7 +52,7 @@ bool Ist_Strom(const std::string& Name, Strom_Datei::Richtung Wohin)
 
 } // namespace
 
-std::optional<std::int32_t> Zahl_Von(std::string_view Text)
+std::optional<std::int64_t> Lange_Zahl_Von(std::string_view Text)
 {
     int Basis = 10;
     if (Text.starts_with("0x") || Text.starts_with("0X")) {
@@ -61,13 +62,20 @@ std::optional<std::int32_t> Zahl_Von(std::string_view Text)
         Basis = 16;
         Text.remove_suffix(1);
     }
-    std::int32_t Wert      = 0;
+    std::int64_t Wert      = 0;
     const char*  Schluss   = Text.data() + Text.size();
     const auto [Ende, Art] = std::from_chars(Text.data(), Schluss, Wert, Basis);
     if (Text.empty() || Art == std::errc::invalid_argument || Ende != Schluss ||
         Text.front() == '-')
         return std::nullopt;
-    return Art == std::errc::result_out_of_range ? std::numeric_limits<std::int32_t>::max() : Wert;
+    return Art == std::errc::result_out_of_range ? std::numeric_limits<std::int64_t>::max() : Wert;
+}
+
+std::optional<std::int32_t> Zahl_Von(std::string_view Text)
+{
+    constexpr std::int64_t Hoechste = std::numeric_limits<std::int32_t>::max();
+    const auto             Wert     = Lange_Zahl_Von(Text);
+    return Wert ? std::optional(static_cast<std::int32_t>(std::min(*Wert, Hoechste))) : std::nullopt;
 }
 
 Datei_Mit_Adresse Datei_Mit_Adresse_Von(const std::string& Text)

@@ -12,6 +12,8 @@ namespace varnholt {
 // Decimal, 0x1F or 1Fh (any case), not negative; what is beyond 2^31 - 1 counts as that. Empty for
 // anything else.
 std::optional<std::int32_t> Zahl_Von(std::string_view Text);
+// The same up to 2^63 - 1.
+std::optional<std::int64_t> Lange_Zahl_Von(std::string_view Text);
 
 // IN[@ADDRESS]. The address counts when what stands behind the last @ is a number.
 struct Datei_Mit_Adresse {

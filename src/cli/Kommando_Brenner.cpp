@@ -1,4 +1,4 @@
-// varnholt-cli read, program, check and test: the commands that touch a device.
+// varnholt-cli read, program, erase, check, lock, clock and test: the commands that touch a device.
 #include "cli/Argumente.h"
 #include "cli/Kommandos.h"
 #include "cli/Port_Wahl.h"
@@ -14,7 +14,9 @@
 #include "programmer/CheckIC.h"
 #include "programmer/Hardware_Test1.h"
 #include "programmer/Lesen.h"
+#include "programmer/Lockmenu.h"
 #include "programmer/Specifications.h"
+#include "programmer/TimeKeeper.h"
 
 #include <fmt/format.h>
 
@@ -50,6 +52,10 @@ struct Program_Optionen : Geraete_Optionen {
 struct Check_Optionen : Geraete_Optionen {
     std::string Split        = "none";
     bool        Abweichungen = false;
+};
+
+struct Lock_Optionen : Geraete_Optionen {
+    int Schutz_Modus = 1;
 };
 
 int Nicht_Bedient(const std::string& Geraet)
@@ -189,7 +195,7 @@ int Vorher_Pruefen(const Program_Optionen& o)
     for (const std::string& Zahl : {o.Editor_Von, o.Editor_Bis, o.IC_Von})
         if (!Zahl.empty() && !Zahl_Von(Zahl))
             return Falsche_Zeile({Zahl + " ist keine Adresse", Zahl + " is no address"});
-    if (!Brennen_Bedient() || (o.Loeschen && !Löschen_Bedient()))
+    if (!Brennen_Bedient())
         return Nicht_Bedient(o.Geraet);
     return Status_Fertig;
 }
@@ -207,10 +213,9 @@ int Program(const Program_Optionen& o)
     return Am_Port(o, [&o] { return Brennen(o); });
 }
 
-// The difference table, its lines ended as those of any output.
-std::string Abweichungen_Text()
+// A text of the logic, its lines ended as those of any output.
+std::string Mit_Zeilenenden(std::string Text)
 {
-    std::string Text = CheckIC.Text;
     std::erase(Text, '\r');
     while (Text.ends_with('\n'))
         Text.pop_back();
@@ -226,7 +231,7 @@ int Vergleichen_Mit_IC(const Check_Optionen& o)
     Vergleich_Ausgeben();
     if (o.Abweichungen && CheckIC.Button_Dat_Aktiv && !CheckIC.Gleich) {
         Button_Dat_Click();
-        std::cout << Abweichungen_Text();
+        std::cout << Mit_Zeilenenden(CheckIC.Text);
     }
     return CheckIC.Gleich ? Status_Fertig : Status_Misslungen;
 }
@@ -238,6 +243,93 @@ int Check(const Check_Optionen& o)
     if (!Lesen_Bedient())
         return Nicht_Bedient(o.Geraet);
     return Am_Port(o, [&o] { return Vergleichen_Mit_IC(o); });
+}
+
+// Whether the erase command serves the device at all.
+int Loeschbar_Pruefen(const Geraete_Optionen& o)
+{
+    if (!Baustein_Gewaehlt())
+        return Status_Misslungen;
+    if (Loeschen_Moeglich(Gewaehltes_Geraet()))
+        return Status_Fertig;
+    return Falsche_Zeile({"Das IC " + o.Geraet + " kann elektrisch nicht gelöscht werden",
+                          "the device " + o.Geraet + " can't be erased electrically"});
+}
+
+// A device that needs no erase is a notice, not a failure.
+int Loeschen_Ausfuehren()
+{
+    MNU_IC_Löschen_Click();
+    if (Gewaehltes_Geraet().E_Typ == "29C")
+        return Status_Fertig;
+    if (!CheckIC.Offen)
+        return Status_Misslungen;
+    std::cout << CheckIC.Zustand_IC << '\n';
+    return CheckIC.Leer ? Status_Fertig : Status_Misslungen;
+}
+
+int Erase(const Geraete_Optionen& o)
+{
+    if (const int Status = Geraet_Waehlen(o.Geraet); Status != Status_Fertig)
+        return Status;
+    if (const int Status = Loeschbar_Pruefen(o); Status != Status_Fertig)
+        return Status;
+    return Am_Port(o, Loeschen_Ausfuehren);
+}
+
+// Why the device has no such mode, in front of any access to it.
+int Modus_Pruefen(const Lock_Optionen& o)
+{
+    if (!Baustein_Gewaehlt())
+        return Status_Misslungen;
+    if (!Sperren_Moeglich(Gewaehltes_Geraet()))
+        return Falsche_Zeile({"Das IC " + o.Geraet + " hat keine Lockbits",
+                              "the device " + o.Geraet + " has no lock bits"});
+    if (o.Schutz_Modus == 4 && !Schutz_Modus_4_Moeglich())
+        return Falsche_Zeile({"Das IC " + o.Geraet + " hat keinen Modus 4",
+                              "the device " + o.Geraet + " has no mode 4"});
+    return Status_Fertig;
+}
+
+int Sperren(int Schutz_Modus)
+{
+    Antwort = Antwort_Ok;
+    MNU_IC_LockBits_Click();
+    if (!Lockmenu.Offen)
+        return Status_Misslungen;
+    Lockmenu_Option_Click(Schutz_Modus);
+    Lockmenu_Command1_Click();
+    return Status_Fertig;
+}
+
+int Lock(const Lock_Optionen& o)
+{
+    if (const int Status = Geraet_Waehlen(o.Geraet); Status != Status_Fertig)
+        return Status;
+    if (const int Status = Modus_Pruefen(o); Status != Status_Fertig)
+        return Status;
+    return Am_Port(o, [&o] { return Sperren(o.Schutz_Modus); });
+}
+
+int Uhrzeit_Ausgeben()
+{
+    const Text_Paar Zeit = Uhrzeit_Text(TimeKeeper_Lesen());
+    if (Antwort == Antwort_Abbrechen)
+        return Status_Misslungen;
+    std::cout << Mit_Zeilenenden(In_Sprache(Zeit));
+    return Status_Fertig;
+}
+
+int Clock(const Geraete_Optionen& o)
+{
+    if (const int Status = Geraet_Waehlen(o.Geraet); Status != Status_Fertig)
+        return Status;
+    if (!Baustein_Gewaehlt())
+        return Status_Misslungen;
+    if (!Gewaehltes_Geraet().Name.starts_with("48T"))
+        return Falsche_Zeile({"Das IC " + o.Geraet + " hat keine Uhr",
+                              "the device " + o.Geraet + " has no clock"});
+    return Am_Port(o, Uhrzeit_Ausgeben);
 }
 
 int Test(const Geraete_Optionen& o)
@@ -320,6 +412,14 @@ void Program_Anmelden(Kommandozeile& Zeile)
     k->add_flag("--no-read-before", o->Ohne_Lesen, "Don't read the device before programming");
 }
 
+void Erase_Anmelden(Kommandozeile& Zeile)
+{
+    auto      o = std::make_shared<Geraete_Optionen>();
+    CLI::App* k = Zeile.Kommando(
+        "erase", "Erase a device and show its state", [o] { return Erase(*o); });
+    Geraet_Anmelden(k, *o);
+}
+
 void Check_Anmelden(Kommandozeile& Zeile)
 {
     auto      o = std::make_shared<Check_Optionen>();
@@ -329,6 +429,29 @@ void Check_Anmelden(Kommandozeile& Zeile)
     Geraet_Anmelden(k, *o);
     Split_Anmelden(k, o->Split);
     k->add_flag("--differences", o->Abweichungen, "Print the table of differences");
+}
+
+void Lock_Anmelden(Kommandozeile& Zeile)
+{
+    auto      o = std::make_shared<Lock_Optionen>();
+    CLI::App* k = Zeile.Kommando(
+        "lock", "Set the protection mode of a microcontroller", [o] { return Lock(*o); });
+    Geraet_Anmelden(k, *o);
+    k->add_option("--mode",
+                  o->Schutz_Modus,
+                  "1 none (writes nothing), 2 no programming, 3 nor verify, 4 nor external code; "
+                  "only an erase goes back")
+        ->required()
+        ->check(CLI::Range(1, Schutz_Modi))
+        ->type_name("MODE");
+}
+
+void Clock_Anmelden(Kommandozeile& Zeile)
+{
+    auto      o = std::make_shared<Geraete_Optionen>();
+    CLI::App* k = Zeile.Kommando(
+        "clock", "Read date and time of a 48T device", [o] { return Clock(*o); });
+    Geraet_Anmelden(k, *o);
 }
 
 void Test_Anmelden(Kommandozeile& Zeile)
@@ -346,7 +469,10 @@ void Brenner_Anmelden(Kommandozeile& Zeile)
 {
     Read_Anmelden(Zeile);
     Program_Anmelden(Zeile);
+    Erase_Anmelden(Zeile);
     Check_Anmelden(Zeile);
+    Lock_Anmelden(Zeile);
+    Clock_Anmelden(Zeile);
     Test_Anmelden(Zeile);
 }
 

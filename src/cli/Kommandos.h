@@ -33,8 +33,8 @@ void Assemble_Anmelden(Kommandozeile& Zeile);    // assemble
 void Disassemble_Anmelden(Kommandozeile& Zeile); // disassemble
 void Dateien_Anmelden(Kommandozeile& Zeile);     // convert, compare
 void Geraete_Anmelden(Kommandozeile& Zeile);     // devices
-void Brenner_Anmelden(Kommandozeile& Zeile);     // read, program, check, test
-void Spaetere_Anmelden(Kommandozeile& Zeile);    // commands that this version doesn't have yet
+void Brenner_Anmelden(Kommandozeile& Zeile);     // read, program, erase, check, lock, clock, test
+void Simulate_Anmelden(Kommandozeile& Zeile);    // simulate
 
 // The man page of the command line as it was announced (troff).
 std::string Handbuch_Seite(const CLI::App& App);
@@ -43,6 +43,9 @@ std::string Handbuch_Seite(const CLI::App& App);
 int Status_Der_Datei();
 // Prints an error of the command line itself; the result is Status_Falsch.
 int Falsche_Zeile(const Text_Paar& Text);
+
+// The trace of an --trace option can't be written: the error, and Status_Datei.
+int Spur_Fehlt();
 
 // Reads the device database; the result is a Status_T value, the error is printed.
 int Geraete_Lesen();

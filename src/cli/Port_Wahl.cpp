@@ -17,17 +17,6 @@
 #include <iostream>
 
 namespace varnholt {
-namespace {
-
-int Spur_Fehlt()
-{
-    Auf_Fehlerausgabe(In_Sprache(
-        {"Die Aufzeichnung kann nicht geschrieben werden.", "The trace can't be written."}));
-    return Status_Datei;
-}
-
-} // namespace
-
 Port_Wahl::Port_Wahl()  = default;
 Port_Wahl::~Port_Wahl() = default;
 

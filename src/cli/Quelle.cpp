@@ -11,6 +11,10 @@
 #include "files/Laden.h"
 #include "language/Assembler_Zustand.h"
 #include "language/Fehlermeldung.h"
+#include "simulator/Sitzung.h"
+
+#include <functional>
+#include <utility>
 
 namespace varnholt {
 namespace {
@@ -54,6 +58,21 @@ private:
     Meldungsbox& Box = *Plattform.Box;
 };
 
+// Runs an assembly; its error is printed with file and line.
+bool Mit_Stelle(const std::string& Name, const std::function<bool()>& Assemblierung)
+{
+    Fehlertext = {};
+    bool Gut   = false;
+    {
+        const Ohne_Fehlerbox Still;
+        Gut = Assemblierung();
+    }
+    if (!Gut && !Fehlertext.E.empty())
+        Auf_Fehlerausgabe(Name + ":" + std::to_string(Fehler_Zeile + 1) +
+                          ": error: " + In_Sprache(Fehlertext));
+    return Gut;
+}
+
 } // namespace
 
 int Quelle_Laden(const std::string& Name)
@@ -68,20 +87,15 @@ int Quelle_Laden(const std::string& Name)
 
 bool Quelle_Assemblieren(const std::string& Name, bool Debug)
 {
-    Debugger_Aktiv = Debug;
-    {
-        const Ohne_Fehlerbox Still;
+    return Mit_Stelle(Name, [Debug] {
+        Debugger_Aktiv = Debug;
         Assemblieren();
-    }
-    Debugger_Aktiv = false;
-    if (Assembler_Fehler == 0)
-        return true;
-    Assembler_Fehler = 0;
-    if (!Fehlertext.E.empty())
-        Auf_Fehlerausgabe(Name + ":" + std::to_string(Fehler_Zeile + 1) +
-                          ": error: " + In_Sprache(Fehlertext));
-    return false;
+        Debugger_Aktiv = false;
+        return std::exchange(Assembler_Fehler, 0) == 0;
+    });
 }
+
+bool Quelle_Vorbereiten(const std::string& Name) { return Mit_Stelle(Name, Daten_Vorbereiten); }
 
 int Bild_Laden_Von(const std::string& Name)
 {

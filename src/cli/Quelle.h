@@ -10,6 +10,9 @@ namespace varnholt {
 int Quelle_Laden(const std::string& Name);
 // Assembles it. On an error prints `Name:LINE: error: TEXT` and answers false.
 [[nodiscard]] bool Quelle_Assemblieren(const std::string& Name, bool Debug);
+// Assembles it as the debugger does, with the rows that its line search needs; the errors likewise.
+// A program without a processor file gets its message.
+[[nodiscard]] bool Quelle_Vorbereiten(const std::string& Name);
 // Loads an image by its extension as in Hex-Editor mode; the result is a Status_T value.
 int Bild_Laden_Von(const std::string& Name);
 // The same as an import at that address, over what is there.

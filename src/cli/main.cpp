@@ -60,7 +60,7 @@ void Anmelden(Kommandozeile& Zeile)
     Dateien_Anmelden(Zeile);
     Geraete_Anmelden(Zeile);
     Brenner_Anmelden(Zeile);
-    Spaetere_Anmelden(Zeile);
+    Simulate_Anmelden(Zeile);
 }
 
 // The arguments as the parser takes them, the last one first. A name in brackets would be split
@@ -125,6 +125,13 @@ int Falsche_Zeile(const Text_Paar& Text)
 {
     Auf_Fehlerausgabe("varnholt-cli: " + In_Sprache(Text));
     return Status_Falsch;
+}
+
+int Spur_Fehlt()
+{
+    Auf_Fehlerausgabe(In_Sprache(
+        {"Die Aufzeichnung kann nicht geschrieben werden.", "The trace can't be written."}));
+    return Status_Datei;
 }
 
 int Geraete_Lesen()

@@ -52,28 +52,24 @@ void Schritt_Abschliessen(const Textfeld* Feld)
 
 bool Hat_Marke(std::string_view Text) { return Text.find(':') != std::string_view::npos; }
 
-// Puts a text in place of the selection. The list of the jumpmarks follows what goes and comes.
+// Puts a text in place of the selection, with its look where it is the remembered one. The list of
+// the jumpmarks follows what goes and comes.
 void Auswahl_Tauschen(Textfeld* Feld, std::string_view Neuer)
 {
     const bool Quelle = Feld == Plattform.Edit;
     const bool Marken = Quelle && (Hat_Marke(Neuer) || Hat_Marke(Feld->Auswahl_Text()));
-    Feld->Auswahl_Ersetzen_UTF8(Neuer);
+    if (!Neuer.empty() && Neuer == Ablage.Gemerkter_Text)
+        Feld->Auswahl_Ersetzen_Reich(Ablage.Gemerktes);
+    else
+        Feld->Auswahl_Ersetzen_UTF8(Neuer);
     if (Marken)
         Sprungmarken_Fuellen();
 }
 
-std::vector<Farbstelle_T> Verschoben(std::vector<Farbstelle_T> Farben, std::int64_t Um)
-{
-    for (Farbstelle_T& f : Farben)
-        f.Anfang += Um;
-    return Farben;
-}
-
 void Auswahl_Merken(const Textfeld* Feld)
 {
-    const Textstelle_T Stelle = Feld->Auswahl();
-    Ablage.Gemerkter_Text     = Feld->Auswahl_Text_UTF8();
-    Ablage.Gemerkte_Farben    = Verschoben(Feld->Farben(Stelle), -Stelle.Anfang);
+    Ablage.Gemerktes      = Feld->Auswahl_Reich();
+    Ablage.Gemerkter_Text = Reiner_Text(Ablage.Gemerktes);
     Plattform.Ablage->Setzen_UTF8(Ablage.Gemerkter_Text);
 }
 
@@ -86,18 +82,13 @@ void Auswahl_Loeschen(Textfeld* Feld)
     Geaendert_Markieren(Feld);
 }
 
-// Puts the text in, with its colours where they are remembered; colours its lines in the editor.
+// Puts the text in; colours its lines in the editor.
 void Text_Einsetzen(Textfeld* Feld, const std::string& Text)
 {
     const Edit_Ruhe    Ruhe;
     const std::int64_t Anfang = Feld->Auswahl().Anfang;
     Auswahl_Tauschen(Feld, Text);
     const std::int64_t Ende = Feld->Auswahl().Anfang;
-    if (Text == Ablage.Gemerkter_Text) {
-        const Farbstelle_T Schwarz{Anfang, Ende - Anfang, 0};
-        Feld->Faerben({&Schwarz, 1});
-        Feld->Faerben(Verschoben(Ablage.Gemerkte_Farben, Anfang));
-    }
     if (Feld == Plattform.Edit)
         Zeilen_Einfaerben(Feld->Zeile_Von(Anfang), Feld->Zeile_Von(Ende));
     Feld->Auswaehlen(Ende, 0);

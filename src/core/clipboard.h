@@ -1,17 +1,16 @@
 // What the clipboard commands remember beside the clipboard of the system.
 #pragma once
 
-#include "core/platform.h"
+#include "core/rich_text.h"
 
 #include <string>
-#include <vector>
 
 namespace varnholt {
 
-// The text that was copied last, with its colours, to be used while the clipboard still holds it.
+// The text that was copied last, to be used with its look while the clipboard still holds it.
 inline struct Ablage_T {
-    std::string               Gemerkter_Text{};  // UTF-8, lines ended by CR LF
-    std::vector<Farbstelle_T> Gemerkte_Farben{}; // from the beginning of the text on, ascending
+    std::string  Gemerkter_Text{}; // UTF-8, lines ended by CR LF
+    Reich_Text_T Gemerktes{};      // the same with the look of its characters
 } Ablage;
 
 } // namespace varnholt

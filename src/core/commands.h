@@ -20,8 +20,14 @@ void Fenster_Anordnen();
 void Fenster_Sperren();
 void Fenster_Freigeben();
 void MNU_G_Einstellung_Click();
+void MNU_Bef_Click();
+void MNU_Basic_Click();
 void MNU_Spr_Click();
 void MNU_Not_Click();
+void MNU_CONTROL_Click(); // the windows of the simulator: while a session is on
+void MNU_RAM_Click();
+void MNU_SFR_Click();
+void MNU_EXRAM_Click();
 
 // core/interface_texts.cpp
 // Every caption of the main window and of the windows that stay open.   sets: Sprache, menu, ...
@@ -44,7 +50,8 @@ void MNU_Hex_Click();
 // Brings Modus to that mode and shows its window, without assembling or disassembling.
 void In_Modus_Wechseln(int Neuer);
 
-// core/session.cpp: ends a debugger session; what belongs to one is disabled.
+// core/session.cpp: ends a debugger session; what belongs to one is disabled. The other commands of a
+// session stand in simulator/Sitzung.h.
 void Debug_Beenden();
 
 // core/undo.cpp
@@ -110,6 +117,36 @@ void MNU_LetzteAdresse_Click();
 void Edit_Einfaerben();
 // reads: Edit, C_keine_TAB_SM, C_keine_US_SM   sets: Sprungmarken
 void Sprungmarken_Fuellen();
+
+// editors/Suche.cpp and editors/HexSuche.cpp: routed by Modus.
+void MNU_Suche_Click();
+void MNU_Weitersuchen_Click();
+
+// editors/Bereiche.cpp
+void MNU_Ber_Kopieren_Click();
+void MNU_Ber_setzen_Click();
+void MNU_Ber_entfernen_Click();
+
+// files/Drucken.cpp
+void MNU_PrinterConfig_Click();
+void MNU_PrintDialog_Click();
+
+// programmer: the commands of the menu MNU_IC
+void MNU_IC_Lesen_Click();
+void MNU_IC_Brennen_Click();
+void MNU_IC_Löschen_Click();
+void MNU_IC_Prüfen_Click();
+void MNU_IC_LockBits_Click();
+void MNU_TimeKeeper_ReadTime_Click();
+void MNU_TimeKeeper_WriteTime_Click();
+void MNU_TimeKeeper_Start_Click();
+void MNU_TimeKeeper_Stop_Click();
+void MNU_Hardware_Version_Click();
+void MNU_Tessel2_Hardware_Version_Click();
+void MNU_Eprommer_Test_Click();
+void MNU_Tessel2_Test_Click();
+void MNU_EEprommer_Click(); // the simulated board
+void MNU_Typ_Check();
 
 // programmer/Geraetewahl.cpp
 // Drops the device selection.   sets: IC_Nummer, menu

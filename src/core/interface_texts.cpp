@@ -9,6 +9,7 @@
 #include "core/version.h"
 #include "core/windows.h"
 #include "programmer/Specifications.h"
+#include "simulator/Sitzung.h"
 
 #include <string>
 
@@ -82,6 +83,8 @@ void Sprache_Setzen(const char* Neue)
     Menue_Beschriften();
     Hauptfenster_Beschriften();
     Werkzeuge_Beschriften();
+    if (Debug_Laeuft)
+        Start_Beschriften();
     Datei_Filter = Fester_Text(Filter);
     Fenster_Beschriften();
     Sprungmarken_Fuellen(); // the entry that there are none

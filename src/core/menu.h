@@ -144,6 +144,7 @@ struct Werkzeug_Eintrag_T {
 };
 
 inline constexpr int Werkzeug_Umschalten = 21;
+inline constexpr int Werkzeug_Starten    = 24;
 inline constexpr int Werkzeug_Plaetze    = 28;
 
 inline constexpr auto Werkzeug_Tabelle = std::to_array<Werkzeug_Eintrag_T>({
@@ -228,5 +229,8 @@ bool Werkzeug_Bereit(int Position);
 void Menue_Ausfuehren(std::size_t Platz);
 // The click handler of the tool bar, by key; an unknown key does nothing.
 void Werkzeug_Ausfuehren(std::string_view Schluessel);
+// Whether that may happen while the debugger runs a program; else it waits for the end of the run.
+bool Menue_Im_Lauf(std::size_t Platz);
+bool Werkzeug_Im_Lauf(std::string_view Schluessel);
 
 } // namespace varnholt

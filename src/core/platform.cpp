@@ -47,6 +47,7 @@ public:
     void   Schrift_Setzen(int, const Schrift_T&) override {}
     void   Formular_Zeigen(Formular) override {}
     void   Formular_Entladen(Formular) override {}
+    bool   Formular_Sichtbar(Formular) const override { return false; }
     void   Start_Text(std::string_view) override {}
     void   Programm_Beenden() override {}
 };
@@ -68,6 +69,20 @@ class Keine_Umgebung : public Schale {
 public:
     bool Oeffnen(std::string_view) override { return false; }
     void Dateityp_Verknuepfen(const Dateityp_T&) override {}
+};
+
+class Kein_Drucker : public Drucker {
+public:
+    void        Einrichten() override {}
+    bool        Waehlen(Druckwahl_T&) override { return false; }
+    bool        Beginnen(std::string_view) override { return false; }
+    void        Schrift(const Schrift_T&) override {}
+    int         Zeilen_Je_Seite() const override { return 1; }
+    void        Zeile(std::string_view, std::span<const Farbstelle_T>) override {}
+    void        Neue_Seite() override {}
+    void        Beenden() override {}
+    std::string Datum() const override { return {}; }
+    std::string Uhrzeit() const override { return {}; }
 };
 
 // No port: writes go nowhere and every read gives FFh, as floating lines do.
@@ -110,6 +125,7 @@ struct Stille_Welt_T {
     Stumme_Dialoge    Dialog;
     Stumme_Ablage     Ablage;
     Keine_Umgebung    Umgebung;
+    Kein_Drucker      Druck;
 
     Plattform_T Alle()
     {
@@ -122,7 +138,8 @@ struct Stille_Welt_T {
                 &Fenster,
                 &Dialog,
                 &Ablage,
-                &Umgebung};
+                &Umgebung,
+                &Druck};
     }
 };
 

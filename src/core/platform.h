@@ -2,6 +2,7 @@
 // behind it: the windows (ui/), the terminal (cli/) and the script of a test (tests/support).
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -65,6 +66,8 @@ public:
     virtual void Titel(int Fenster, std::string_view Text) = 0; // window number of Fenster_Tabelle
     // Seconds since midnight, local time, with a fraction. (A port has a clock of its own.)
     virtual double Sekunden() = 0;
+    // The short tone at the end of something long.
+    virtual void Ton() {}
 };
 
 // A piece of a text: first character and number of characters.
@@ -81,6 +84,8 @@ struct Farbstelle_T {
     std::int32_t Farbe                                 = 0;
     bool         operator==(const Farbstelle_T&) const = default;
 };
+
+struct Reich_Text_T; // core/rich_text.h
 
 // A text control (`Edit`, `Notiz`). The text is Windows-1252 with CR LF line ends; positions count
 // characters from 0, a line end being two; lines count from 0. What lies outside the text is drawn
@@ -120,6 +125,12 @@ public:
     virtual Textstelle_T              Zeile(std::int64_t Nummer) const     = 0; // without its end
     virtual std::int64_t              Zeilen_Anzahl() const                = 0; // at least 1
     virtual std::int64_t              Erste_Zeile() const                  = 0; // first visible
+    // Load and save of rich text; the same for the selection, caret behind it. A control of plain
+    // text gives and takes the colours only.
+    virtual Reich_Text_T Reicher_Text() const;
+    virtual void         Reich_Setzen(const Reich_Text_T& Neuer); // caret at 0
+    virtual Reich_Text_T Auswahl_Reich() const;
+    virtual void         Auswahl_Ersetzen_Reich(const Reich_Text_T& Neuer);
     virtual void                      Zeichnen_Anhalten(bool Angehalten)   = 0; // freeze, thaw
     virtual void                      Sperren(bool Gesperrt)               = 0; // read only
     virtual void                      Fokus()                              = 0;
@@ -146,7 +157,26 @@ struct Schrift_T {
 };
 
 // The forms that stand beside the child windows.
-enum class Formular { Start, Erststart, Abfrage_Modus, Optionen };
+enum class Formular {
+    Start,
+    Erststart,
+    Abfrage_Modus,
+    Optionen,           // modal
+    F_Suche,            // stays open beside the text
+    F_HexSuche,         // stays open beside the image
+    F_Bereich_Kopieren, // modal, as the next two
+    F_Bereich_setzen,
+    F_Bereich_entfernen,
+    F_Hilfe,      // stays open
+    F_Brennmenue, // modal
+    F_CheckIC,
+    F_Lockmenu,              // modal
+    F_Jumper,                // stays open
+    F_Wahl_Eprommer_Version, // modal, as the next one
+    F_Wahl_Tessel2_Version,
+    F_Board, // the simulated programmer board; stays open
+};
+inline constexpr std::size_t Formular_Anzahl = 17;
 
 // The main window and its child windows, by window number (core/windows.h).
 class Fensterwelt {
@@ -164,6 +194,7 @@ public:
     virtual void   Schrift_Setzen(int Fenster, const Schrift_T& Schrift) = 0; // 2, 5 and 6 only
     virtual void   Formular_Zeigen(Formular Welches)                     = 0; // Optionen: modal
     virtual void   Formular_Entladen(Formular Welches)                   = 0;
+    virtual bool   Formular_Sichtbar(Formular Welches) const             = 0;
     virtual void   Start_Text(std::string_view Text)                     = 0; // label `L_Init`
     virtual void   Programm_Beenden()                                    = 0; // no way back
 };
@@ -195,6 +226,31 @@ public:
     // The same in UTF-8; by way of Windows-1252 where the platform knows no more.
     virtual std::string Text_UTF8() const;
     virtual void        Setzen_UTF8(std::string_view Text);
+};
+
+// What the print dialog opens with, and comes back with.
+struct Druckwahl_T {
+    bool Markierung_Anbieten = false; // there is a selection that can be printed by itself
+    bool Markierung          = false; // it was chosen
+};
+
+// The printer: lines of text in a font, page after page. A preview or a PDF file may stand behind it.
+class Drucker {
+public:
+    virtual ~Drucker()                      = default;
+    virtual void Einrichten()               = 0; // the setup dialog
+    virtual bool Waehlen(Druckwahl_T& Wahl) = 0; // the print dialog; false: cancelled
+    // Begins a document on its first page; false when there is nothing to print on, which is told.
+    virtual bool Beginnen(std::string_view Titel)        = 0;
+    virtual void Schrift(const Schrift_T& Schrift)       = 0;
+    virtual int  Zeilen_Je_Seite() const                 = 0; // in that font, at least 1
+    // A line (UTF-8, no line end); colours by characters from 0, black elsewhere. What is wider than
+    // the page is clipped.
+    virtual void Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben) = 0;
+    virtual void        Neue_Seite()                                                = 0;
+    virtual void        Beenden()                                                   = 0;
+    virtual std::string Datum() const   = 0; // 10 characters: "20.11.2026"
+    virtual std::string Uhrzeit() const = 0; // 8 characters: "17:05:09"
 };
 
 // A shell file association.
@@ -231,6 +287,8 @@ public:
     virtual void   Sleep(int Millisekunden)           = 0;
     virtual double Sekunden_seit_Mitternacht()        = 0;
     virtual void   Wartet(std::int64_t Mikrosekunden) = 0;
+    // A busy wait of Dauer microseconds that counts from the stamp Anfang, taken some time ago.
+    virtual void Wartet_Seit(std::int64_t /*Anfang*/, std::int64_t Dauer) { Wartet(Dauer); }
     virtual void   Sekunden_Wartet(double Sekunden)   = 0;
 };
 
@@ -247,6 +305,7 @@ struct Plattform_T {
     Dialoge*          Dialog;
     Zwischenablage*   Ablage;
     Schale*           Umgebung;
+    Drucker*          Druck;
 };
 
 extern Plattform_T Plattform;

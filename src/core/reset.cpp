@@ -13,15 +13,24 @@
 #include "core/undo.h"
 #include "core/views.h"
 #include "core/windows.h"
+#include "editors/Bereiche.h"
 #include "editors/Einfaerben.h"
+#include "editors/HexSuche.h"
 #include "editors/Hexedit.h"
+#include "editors/Hilfe.h"
+#include "editors/Nachschlagen.h"
 #include "editors/Quelltext.h"
 #include "editors/Sprungmarken.h"
+#include "editors/Suche.h"
 #include "files/Datei_Zustand.h"
 #include "language/Assembler_Zustand.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Geraete.h"
+#include "programmer/Geraetemenue.h"
 #include "programmer/Port_Einrichtung.h"
+#include "simulator/Debug.h"
+#include "simulator/Sim_Ansichten.h"
+#include "simulator/Sitzung.h"
 
 namespace varnholt {
 
@@ -40,8 +49,17 @@ void Alles_Zuruecksetzen()
     Einfaerben_Zuruecksetzen();
     Sprungmarken_Zuruecksetzen();
     Hexedit_Zuruecksetzen();
+    Hilfe_Zuruecksetzen();
+    Nachschlagen_Zuruecksetzen();
+    Suche_Zuruecksetzen();
+    HexSuche_Zuruecksetzen();
+    Bereich_Zuruecksetzen();
     Dateien_Zuruecksetzen();
+    Maschine_Zuruecksetzen();
+    Sitzung_Zuruecksetzen();
+    Sim_Ansichten_Zuruecksetzen();
     Geraete_Zuruecksetzen();
+    Geraetemenue_Zuruecksetzen();
     Brenner_Zuruecksetzen();
     Startlauf = {};
     Undo      = {};

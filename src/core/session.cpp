@@ -6,7 +6,9 @@
 #include "core/menu.h"
 #include "core/platform.h"
 #include "core/shared_state.h"
+#include "core/undo.h"
 #include "core/windows.h"
+#include "language/Assembler_Zustand.h"
 
 namespace varnholt {
 namespace {
@@ -25,14 +27,23 @@ constexpr int Letzter_Sitzungsknopf = 28;
 
 } // namespace
 
+void Sitzung_Schalten(bool Aktiv)
+{
+    for (const Menue_Name Name : Sitzungs_Eintraege)
+        Menue(Name).Aktiv = Aktiv;
+    for (int i = Erster_Sitzungsknopf; i <= Letzter_Sitzungsknopf; ++i)
+        Werkzeug(i).Aktiv = Aktiv;
+}
+
 void Debug_Beenden()
 {
+    if (Debugger_Aktiv) {
+        Undo_Knoepfe_Stellen();
+        Quellzeilen_Loeschen();
+    }
     Debugger_Aktiv = false;
     Plattform.Edit->Sperren(false);
-    for (const Menue_Name Name : Sitzungs_Eintraege)
-        Menue(Name).Aktiv = false;
-    for (int i = Erster_Sitzungsknopf; i <= Letzter_Sitzungsknopf; ++i)
-        Werkzeug(i).Aktiv = false;
+    Sitzung_Schalten(false);
     for (int i = Fenster_RAM; i <= Fenster_CONTROL; ++i)
         Plattform.Fenster->Sichtbar_Setzen(i, false);
 }

@@ -85,6 +85,8 @@ bool Ende_Erfragen()
         Dateien_Aufraeumen();
     Plattform.Fenster->Formular_Entladen(Formular::Start);
     Datei_Geaendert = false;
+    for (const Formular Suchform : {Formular::F_Suche, Formular::F_HexSuche})
+        Plattform.Fenster->Formular_Entladen(Suchform);
     return true;
 }
 

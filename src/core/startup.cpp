@@ -16,11 +16,13 @@
 #include "core/version.h"
 #include "core/windows.h"
 #include "editors/Hexedit.h"
+#include "editors/Nachschlagen.h"
 #include "files/Datei_Zustand.h"
 #include "files/Dateizugriff.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Port_Einrichtung.h"
 #include "programmer/Special.h"
+#include "programmer/Geraetemenue.h"
 #include "programmer/Specifications.h"
 
 #include <algorithm>
@@ -248,6 +250,7 @@ void Geraete_Einlesen()
     Spec_Lesen();
     const bool Bekannt = Geraet_Bekannt();
     IC_Nummer          = Bekannt ? IC_Nummer : -1;
+    Geraetemenue.Haken = IC_Nummer;
     IC_Titel_Zeigen();
     if (!Bekannt)
         return;
@@ -374,9 +377,13 @@ void Start_Bild_Abwarten()
 void Fenster_Zeigen()
 {
     for (const int Nummer :
-         {Fenster_Bef, Fenster_Basic, Fenster_Spr, Fenster_Edit, Fenster_Notiz, Fenster_Hexedit})
-        Plattform.Fenster->Sichtbar_Setzen(
-            Nummer, Fenster_Wert(Fenster_Spalte(Nummer, Modus), Nummer, Feld::Sichtbar) == -1);
+         {Fenster_Bef, Fenster_Basic, Fenster_Spr, Fenster_Edit, Fenster_Notiz, Fenster_Hexedit}) {
+        const bool Sichtbar =
+            Fenster_Wert(Fenster_Spalte(Nummer, Modus), Nummer, Feld::Sichtbar) == -1;
+        if (Sichtbar)
+            Nachschlagen_Bereitstellen(Nummer);
+        Plattform.Fenster->Sichtbar_Setzen(Nummer, Sichtbar);
+    }
     Plattform.Fenster->Hintergrund(Hintergrund_Farbe);
 }
 

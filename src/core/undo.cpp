@@ -218,6 +218,19 @@ void Undo_Ring_Neu()
     Redo_Schalten(false);
 }
 
+void Undo_Knoepfe_Stellen()
+{
+    const bool Ring = Hoechster_Platz() != Kein_Undo;
+    Undo_Schalten(Ring && Voriger(Undo_Index) != Undo_Ende);
+    Redo_Schalten(Ring && Undo_Index != Undo_Oben && Naechster(Undo_Index) != Undo_Oben);
+}
+
+void Undo_Knoepfe_Sperren()
+{
+    Undo_Schalten(false);
+    Redo_Schalten(false);
+}
+
 void MNU_Undo_Click()
 {
     const Zeichenpause Pause;

@@ -39,6 +39,9 @@ void Undo_Schritt_speichern();
 void Undo_Zuruecksetzen();
 // The same for the document in work when the number of steps changes: a changed line stays one.
 void Undo_Ring_Neu();
+// Undo and Redo in menu and tool bar: by the ring's position, or all off while the text is locked.
+void Undo_Knoepfe_Stellen();
+void Undo_Knoepfe_Sperren();
 // Saves the text to the next file of the series and writes the crash marker.
 // reads: Edit, Programm_Pfad   sets: Autosave_Nummer, Autosave_Zeit
 void Autosave_Speichern();

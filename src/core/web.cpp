@@ -18,6 +18,30 @@ bool Bleibt(char c)
            std::string_view("-._~").find(c) != std::string_view::npos;
 }
 
+// Hands a location to the shell; false, after a notice, when it doesn't take it.
+bool Ort_Oeffnen(const std::string& Ort)
+{
+    const bool Genommen = Plattform.Umgebung->Oeffnen(Ort);
+    if (!Genommen)
+        Plattform.Box->Hinweisen(
+            In_Sprache({Ort + " konnte nicht geöffnet werden.", Ort + " could not be opened."}));
+    return Genommen;
+}
+
+// The first page of the handbook; false, after a notice, when it can't be shown.
+bool Handbuch_Oeffnen()
+{
+    const bool        Englisch = Sprache == "E";
+    const std::string Ordner   = Programm_Pfad + (Englisch ? "Help" : "Hilfe");
+    const char* const Name     = Englisch ? "Help-Index.htm" : "Hilfe-Index.htm";
+    if (const auto Datei = Datei_Suchen(Ordner, Name))
+        return Ort_Oeffnen(Datei->string());
+    const std::string Ort = (std::filesystem::path(Ordner) / Name).string();
+    Plattform.Box->Hinweisen(In_Sprache({"Die Hilfe ist nicht installiert: " + Ort + " fehlt.",
+                                         "The help is not installed: " + Ort + " is missing."}));
+    return false;
+}
+
 // A page of the maker's in the language of the interface.
 void Seite_Oeffnen(const char* Deutsche, const char* Englische)
 {
@@ -51,12 +75,7 @@ std::string Mail_Ort(std::string_view Adresse, std::string_view Betreff, std::st
         .append(Prozent_Kodiert(Text));
 }
 
-void CallWebSite(const std::string& url)
-{
-    if (!Plattform.Umgebung->Oeffnen(url))
-        Plattform.Box->Hinweisen(
-            In_Sprache({url + " konnte nicht geöffnet werden.", url + " could not be opened."}));
-}
+void CallWebSite(const std::string& url) { Ort_Oeffnen(url); }
 
 void MNU_S_Quelmark_Click() { Seite_Oeffnen("de/", "en/"); }
 void MNU_S_Update_Click() { Seite_Oeffnen("de/varnholt/update/", "en/varnholt/update/"); }
@@ -71,16 +90,11 @@ void MNU_S_Mail_Click()
     CallWebSite(Mail_Ort(Mail_Adresse, Betreff, Anrede));
 }
 
+// Where the handbook can't be shown, the short help of the program's own does instead.
 void MNU_Help_Click()
 {
-    const bool        Englisch = Sprache == "E";
-    const std::string Ordner   = Programm_Pfad + (Englisch ? "Help" : "Hilfe");
-    const char* const Name     = Englisch ? "Help-Index.htm" : "Hilfe-Index.htm";
-    if (const auto Datei = Datei_Suchen(Ordner, Name))
-        return CallWebSite(Datei->string());
-    const std::string Ort = (std::filesystem::path(Ordner) / Name).string();
-    Plattform.Box->Hinweisen(In_Sprache({"Die Hilfe ist nicht installiert: " + Ort + " fehlt.",
-                                         "The help is not installed: " + Ort + " is missing."}));
+    if (!Handbuch_Oeffnen())
+        Plattform.Fenster->Formular_Zeigen(Formular::F_Hilfe);
 }
 
 void MNU_Info_Click()

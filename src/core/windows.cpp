@@ -7,6 +7,8 @@
 #include "core/menu.h"
 #include "core/shared_state.h"
 #include "core/views.h"
+#include "editors/Nachschlagen.h"
+#include "simulator/Sim_Ansichten.h"
 
 #include <algorithm>
 #include <array>
@@ -18,6 +20,9 @@ namespace {
 
 constexpr int Hex_Anteil = 72; // per cent of the width that the main window of the mode takes
 constexpr int MC_Anteil  = 65;
+
+constexpr int Tafel_Hoehe   = 204; // of the control panel where the column is narrow
+constexpr int Breite_Spalte = 660; // a side column where two views of the memory stand side by side
 
 constexpr std::size_t Platz(int Nummer) { return static_cast<std::size_t>(Nummer); }
 
@@ -49,12 +54,17 @@ std::int16_t& Wert_Jetzt(int Nummer, Feld f)
 
 // --- arrangement ---
 
-// A part of the side column, from Von to Bis quarters of its height.
+// A part of the side column, from Von to Bis of so many parts of its height.
+constexpr Lage_T Teil(const Lage_T& Spalte, int Von, int Bis, int Teile)
+{
+    const int Oben  = Spalte.Hoehe * Von / Teile;
+    const int Unten = Spalte.Hoehe * Bis / Teile;
+    return {Spalte.Oben + Oben, Spalte.Links, Unten - Oben, Spalte.Breite};
+}
+
 constexpr Lage_T Viertel(const Lage_T& Spalte, int Von, int Bis)
 {
-    const int Oben  = Spalte.Hoehe * Von / 4;
-    const int Unten = Spalte.Hoehe * Bis / 4;
-    return {Spalte.Oben + Oben, Spalte.Links, Unten - Oben, Spalte.Breite};
+    return Teil(Spalte, Von, Bis, 4);
 }
 
 std::int16_t In_16_Bit(int Wert)
@@ -71,8 +81,19 @@ void Lage_In_Tabelle(int Spalte, int Nummer, const Lage_T& Lage)
     Fenster_Wert(Spalte, Nummer, Feld::Breite) = In_16_Bit(Lage.Breite);
 }
 
+// The left or the right half of a place.
+constexpr Lage_T Haelfte(const Lage_T& Ganzes, bool Rechts)
+{
+    const int Breite = Ganzes.Breite / 2;
+    return {Ganzes.Oben,
+            Ganzes.Links + (Rechts ? Breite : 0),
+            Ganzes.Hoehe,
+            Rechts ? Ganzes.Breite - Breite : Breite};
+}
+
 // Which windows the standard arrangement shows: the main window with the notes, and with the
-// jumpmarks where there is a source text. Those of the debugger stay as they are.
+// jumpmarks where there is a source text. Those of the debugger stay as they are; a session has all
+// four of them before the first arrangement.
 constexpr bool Grund_Sichtbar(int Nummer, int Modus_Der_Spalte, int Modus_Jetzt)
 {
     if (Hauptfenster(Nummer))
@@ -87,10 +108,13 @@ void Grund_Anordnung_Eintragen(int Modus_Der_Spalte)
         const int Spalte = Modus_Der_Spalte - 1;
         if (Fenster_Spalte(n, Modus_Der_Spalte) != Spalte)
             continue; // the main window of the other mode
+        const bool Erste = Fenster_Wert(Spalte, n, Feld::Hoehe) == 0;
         Lage_In_Tabelle(Spalte, n, Lagen[Platz(n)]);
         if (!Vom_Debugger(n))
             Fenster_Wert(Spalte, n, Feld::Sichtbar) =
                 Grund_Sichtbar(n, Modus_Der_Spalte, Modus) ? std::int16_t{-1} : std::int16_t{0};
+        else if (Erste && Modus_Der_Spalte == Modus_MC)
+            Fenster_Wert(Spalte, n, Feld::Sichtbar) = -1;
     }
 }
 
@@ -107,12 +131,19 @@ Lage_T Lage_Aus_Tabelle(int Nummer)
     return Grund_Anordnung(Plattform.Fenster->Innenmass(), Modus_Dazu)[Platz(Nummer)];
 }
 
+void Zeigen(int Nummer, bool Sichtbar)
+{
+    if (Sichtbar)
+        Nachschlagen_Bereitstellen(Nummer);
+    Plattform.Fenster->Sichtbar_Setzen(Nummer, Sichtbar);
+}
+
 void Ein_Fenster_Anordnen(int Nummer)
 {
     const bool Sichtbar         = Wert_Jetzt(Nummer, Feld::Sichtbar) != 0;
     Fenster_Menue(Nummer).Haken = Sichtbar;
     if (!Init_Laeuft && (!Vom_Debugger(Nummer) || Debugger_Aktiv))
-        Plattform.Fenster->Sichtbar_Setzen(Nummer, Sichtbar);
+        Zeigen(Nummer, Sichtbar);
     Plattform.Fenster->Lage_Setzen(Nummer, Lage_Aus_Tabelle(Nummer));
 }
 
@@ -120,7 +151,7 @@ void Sichtbarkeit_Setzen(int Nummer, bool Sichtbar)
 {
     Wert_Jetzt(Nummer, Feld::Sichtbar) = Sichtbar ? std::int16_t{-1} : std::int16_t{0};
     Fenster_Menue(Nummer).Haken        = Sichtbar;
-    Plattform.Fenster->Sichtbar_Setzen(Nummer, Sichtbar);
+    Zeigen(Nummer, Sichtbar);
 }
 
 // --- mode table ---
@@ -134,10 +165,33 @@ void Nur_Hex_Zeigen(bool Hex)
 
 } // namespace
 
+namespace {
+
+// A session's windows have a quarter of the column each, the panel what it needs. In a wide column
+// the views stand side by side.
+void Sitzung_Anordnen(std::array<Lage_T, Fenster_Anzahl + 1>& Lagen, const Lage_T& Spalte)
+{
+    const bool Breit       = Spalte.Breite >= Breite_Spalte;
+    const int  Oben        = std::max(Spalte.Hoehe / 4, std::min(Tafel_Hoehe, Spalte.Hoehe / 3));
+    Lagen[Fenster_CONTROL] = {Spalte.Oben, Spalte.Links, Oben, Spalte.Breite};
+    const Lage_T Rest{Spalte.Oben + Oben, Spalte.Links, Spalte.Hoehe - Oben, Spalte.Breite};
+    if (Breit) {
+        const Lage_T Rechts  = Haelfte(Rest, true);
+        Lagen[Fenster_RAM]   = Haelfte(Rest, false);
+        Lagen[Fenster_SFR]   = Teil(Rechts, 0, 2, 3);
+        Lagen[Fenster_EXRAM] = Teil(Rechts, 2, 3, 3);
+        return;
+    }
+    Lagen[Fenster_RAM]   = Teil(Rest, 0, 1, 3);
+    Lagen[Fenster_SFR]   = Teil(Rest, 1, 2, 3);
+    Lagen[Fenster_EXRAM] = Teil(Rest, 2, 3, 3);
+}
+
+} // namespace
+
 // The side column stands right of the main window. Without the debugger its halves hold jumpmarks
-// or the BASIC reference above, notes or the instruction reference below; a session's windows have
-// a quarter each. The notes have the whole column beside the hex editor, where there are no
-// jumpmarks.
+// or the BASIC reference above, notes or the instruction reference below. The notes have the whole
+// column beside the hex editor, where there are no jumpmarks.
 std::array<Lage_T, Fenster_Anzahl + 1> Grund_Anordnung(const Lage_T& Flaeche, int Modus_Jetzt)
 {
     const int    Anteil = Modus_Jetzt == Modus_Hex ? Hex_Anteil : MC_Anteil;
@@ -151,10 +205,7 @@ std::array<Lage_T, Fenster_Anzahl + 1> Grund_Anordnung(const Lage_T& Flaeche, in
     Lagen[Fenster_Notiz] = Lagen[Fenster_Bef] = Viertel(Spalte, 2, 4);
     if (Modus_Jetzt == Modus_Hex)
         Lagen[Fenster_Notiz] = Spalte;
-    Lagen[Fenster_CONTROL] = Viertel(Spalte, 0, 1);
-    Lagen[Fenster_RAM]     = Viertel(Spalte, 1, 2);
-    Lagen[Fenster_SFR]     = Viertel(Spalte, 2, 3);
-    Lagen[Fenster_EXRAM]   = Viertel(Spalte, 3, 4);
+    Sitzung_Anordnen(Lagen, Spalte);
     return Lagen;
 }
 
@@ -217,8 +268,19 @@ void Fenster_Umschalten(int Nummer)
     Sichtbarkeit_Setzen(Nummer, Wert_Jetzt(Nummer, Feld::Sichtbar) == 0);
 }
 
+void MNU_Bef_Click() { Fenster_Umschalten(Fenster_Bef); }
+void MNU_Basic_Click() { Fenster_Umschalten(Fenster_Basic); }
 void MNU_Spr_Click() { Fenster_Umschalten(Fenster_Spr); }
 void MNU_Not_Click() { Fenster_Umschalten(Fenster_Notiz); }
+void MNU_RAM_Click() { Fenster_Umschalten(Fenster_RAM); }
+void MNU_SFR_Click() { Fenster_Umschalten(Fenster_SFR); }
+void MNU_EXRAM_Click() { Fenster_Umschalten(Fenster_EXRAM); }
+
+void MNU_CONTROL_Click()
+{
+    Fenster_Umschalten(Fenster_CONTROL);
+    Zyklen_Anzeigen(); // the counters went on while nobody looked
+}
 
 void Modus_Tabelle_Anwenden()
 {

@@ -8,22 +8,31 @@
 #include "core/shared_state.h"
 #include "core/windows.h"
 #include "editors/Hexedit.h"
+#include "editors/Nachschlagen.h"
 #include "editors/Notiz.h"
 #include "editors/Quelltext.h"
 #include "editors/Sprungmarken.h"
 #include "files/Datei_Zustand.h"
 #include "files/Dateikommandos.h"
+#include "simulator/Sitzung.h"
+#include "ui/Begleiter.h"
 #include "ui/Bilder.h"
 #include "ui/Dateiwaechter.h"
+#include "ui/F_SIM_CONTROL.h"
+#include "ui/F_SIM_EXRAM.h"
+#include "ui/F_SIM_RAM.h"
+#include "ui/F_SIM_SFR.h"
 #include "ui/Fremd_Hinweis.h"
 #include "ui/Hexedit_Fenster.h"
 #include "ui/Kindfenster.h"
 #include "ui/Menueleiste.h"
 #include "ui/Notiz_Feld.h"
+#include "ui/Notiz_Menue.h"
 #include "ui/Qt_Text.h"
 #include "ui/Quelltext_Feld.h"
 #include "ui/Spr_Fenster.h"
 #include "ui/Statuszeile.h"
+#include "ui/Tafel_Fenster.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -49,7 +58,9 @@ MDI::MDI()
     setWindowIcon(Programm_Bild());
     setAcceptDrops(true);
     Kinder_Bauen();
-    Leisten  = new Menueleiste(this, [this](const auto& Befehl) { Ausfuehren(Befehl); });
+    Leisten  = new Menueleiste(this, [this](const auto& Befehl, bool Im_Lauf) {
+        Im_Lauf ? Eingreifen(Befehl) : Ausfuehren(Befehl);
+    });
     Zeile    = new Statuszeile(this);
     Waechter = new Dateiwaechter(this);
     setStatusBar(Zeile);
@@ -99,16 +110,37 @@ void MDI::Kinder_Bauen()
     Notiz->setFrameShape(QFrame::NoFrame);
     Edit->setFrameShape(QFrame::NoFrame);
     Edit->setAccessibleName(QStringLiteral("MC-Editor"));
-    const auto Einsetzen = [this](int Nummer, const char* Name, QWidget* Inhalt, bool Hauptsache) {
-        auto* Neues = new Kindfenster(Nummer, QString::fromLatin1(Name), Inhalt, Hauptsache);
-        Flaeche->addSubWindow(Neues, Neues->windowFlags());
-        Neues->hide();
-        Kinder[static_cast<std::size_t>(Nummer)] = Neues;
-    };
     Einsetzen(Fenster_Hexedit, "Hexedit", Hex, true);
     Einsetzen(Fenster_Edit, "Edit", Edit, true);
     Einsetzen(Fenster_Spr, "Spr", Spr, false);
     Einsetzen(Fenster_Notiz, "Notiz", Notiz, false);
+
+    Bef       = new Tafel_Fenster(Nachschlagen.Bef, Bef_Spalten, Bef_Erklaerung);
+    Basic_Bef = new Tafel_Fenster(Nachschlagen.Basic_Bef, Basic_Bef_Spalten, Basic_Bef_Erklaerung);
+    Einsetzen(Fenster_Bef, "Bef", Bef, false);
+    Einsetzen(Fenster_Basic, "Basic_Bef", Basic_Bef, false);
+    Sitzungs_Kinder_Bauen();
+}
+
+void MDI::Einsetzen(int Nummer, const char* Name, QWidget* Inhalt, bool Hauptsache)
+{
+    auto* Neues = new Kindfenster(Nummer, QString::fromLatin1(Name), Inhalt, Hauptsache);
+    Flaeche->addSubWindow(Neues, Neues->windowFlags());
+    Neues->hide();
+    Kinder[static_cast<std::size_t>(Nummer)] = Neues;
+}
+
+void MDI::Sitzungs_Kinder_Bauen()
+{
+    const auto Weg      = [this](const std::function<void()>& Befehl) { Eingreifen(Befehl); };
+    Sim_RAM_Fenster     = new F_SIM_RAM(Weg);
+    Sim_SFR_Fenster     = new F_SIM_SFR(Weg);
+    Sim_EXRAM_Fenster   = new F_SIM_EXRAM(Weg);
+    Sim_CONTROL_Fenster = new F_SIM_CONTROL(Weg);
+    Einsetzen(Fenster_RAM, "F_SIM_RAM", Sim_RAM_Fenster, false);
+    Einsetzen(Fenster_SFR, "F_SIM_SFR", Sim_SFR_Fenster, false);
+    Einsetzen(Fenster_EXRAM, "F_SIM_EXRAM", Sim_EXRAM_Fenster, false);
+    Einsetzen(Fenster_CONTROL, "F_SIM_CONTROL", Sim_CONTROL_Fenster, false);
 }
 
 void MDI::Welt_Einsetzen()
@@ -138,6 +170,7 @@ void MDI::Welt_Einsetzen()
     Plattform.Dialog     = &Dialoge_Qt;
     Plattform.Ablage     = &Ablage;
     Plattform.Umgebung   = &Schale_Qt;
+    Plattform.Druck      = &Druck;
 }
 
 void MDI::Kinder_Verbinden()
@@ -151,10 +184,16 @@ void MDI::Kinder_Verbinden()
     connect(Edit, &Quelltext_Feld::Kontextmenue, this, &MDI::Bearbeiten_Menue);
     connect(
         Edit, &Quelltext_Feld::Zoom_Geaendert, this, [](int Prozent) { varnholt::Zoom = Prozent; });
-    connect(Notiz, &Notiz_Feld::Kontextmenue, this, &MDI::Bearbeiten_Menue);
+    connect(Notiz, &Notiz_Feld::Kontextmenue, this, &MDI::Notiz_Menue_Zeigen);
+    connect(Bef, &Tafel_Fenster::Feld_Click, this, [this](int Zeile_Nr, int Spalte) {
+        Eingreifen([Zeile_Nr, Spalte] { Bef_Feld_Click(Zeile_Nr, Spalte); });
+    });
+    connect(Basic_Bef, &Tafel_Fenster::Feld_Click, this, [this](int Zeile_Nr) {
+        Eingreifen([Zeile_Nr] { Basic_Bef_Feld_Click(Zeile_Nr); });
+    });
     connect(Hex, &Hexedit_Fenster::Kontextmenue, this, &MDI::Bearbeiten_Menue);
     connect(Spr, &Spr_Fenster::Eintrag_Gewaehlt, this, [this](int Nummer) {
-        Ausfuehren([Nummer] { Spr_Liste_Click(Nummer); });
+        Eingreifen([Nummer] { Spr_Liste_Click(Nummer); });
     });
     connect(Notiz, &Text_Feld::Text_Geaendert, this, [] { Notiz_Change(); });
     connect(Waechter, &Dateiwaechter::Datei_Fremd_Geaendert, this, &MDI::Fremde_Aenderung);
@@ -173,12 +212,43 @@ void MDI::Kinder_Verbinden()
 
 void MDI::Ausfuehren(const std::function<void()>& Befehl)
 {
-    if (Befehl_Laeuft || Beendet)
+    if (Beendet)
         return;
+    if (Befehl_Laeuft) {
+        if (Kann_Eingreifen()) {
+            Danach = Befehl;
+            Eingreifen(Debug_Start_Stop);
+        }
+        return;
+    }
     {
         const QScopedValueRollback Laeuft(Befehl_Laeuft, true);
         Befehl();
     }
+    Nachziehen();
+    if (Danach)
+        Ausfuehren(std::exchange(Danach, {}));
+}
+
+// A command of the debugger lets events through while it runs a program; nothing may come in the
+// middle of those commands that come then.
+bool MDI::Kann_Eingreifen() const
+{
+    return Befehl_Laeuft && !Eingriff_Laeuft && Programm_Laeuft() && !Beendet;
+}
+
+void MDI::Eingreifen(const std::function<void()>& Befehl)
+{
+    if (!Befehl_Laeuft)
+        return Ausfuehren(Befehl);
+    if (!Kann_Eingreifen())
+        return;
+    {
+        const QScopedValueRollback Laeuft(Eingriff_Laeuft, true);
+        Befehl();
+    }
+    if (Debug_Stop || !Debugger_Aktiv)
+        Ereignisse.Pause_Beenden();
     Nachziehen();
 }
 
@@ -190,9 +260,24 @@ void MDI::Nachziehen()
     Leisten->Nachziehen();
     Hex->Nachziehen();
     Spr->Nachziehen();
+    Bef_Nachfuehren();
+    Bef->Nachziehen();
+    Basic_Bef->Nachziehen();
+    Ansichten_Nachziehen();
+    for (const auto& Form : Formulare)
+        if (auto* Offenes = dynamic_cast<Begleiter*>(Form.get()))
+            Offenes->Nachziehen();
     const QTextCursor c = Edit->textCursor();
     Zeile->Nachziehen(c.blockNumber() + 1, c.positionInBlock() + 1);
     Waechter->Nachziehen();
+}
+
+void MDI::Ansichten_Nachziehen()
+{
+    Sim_RAM_Fenster->Nachziehen();
+    Sim_SFR_Fenster->Nachziehen();
+    Sim_EXRAM_Fenster->Nachziehen();
+    Sim_CONTROL_Fenster->Nachziehen();
 }
 
 // The font and the colour dialog are Qt's: they follow the language where Qt's translations are
@@ -234,8 +319,13 @@ void MDI::Kind_Aktiviert(QMdiSubWindow* Neues)
         return Hexedit_Activate();
     case Fenster_Edit:
         return Edit_Activate();
-    default:
+    case Fenster_Spr:
+    case Fenster_Notiz:
+    case Fenster_EXRAM:
         Aktives_Fenster = Aktives_Kind;
+        break;
+    default: // clipboard and search stay with the window before
+        break;
     }
 }
 
@@ -255,6 +345,16 @@ void MDI::Bearbeiten_Menue(const QPoint& Ort)
     Leisten->Menue_Von("MNU_Bearbeiten")->popup(Ort);
 }
 
+// The clipboard commands stand below those of the look.
+void MDI::Notiz_Menue_Zeigen(const QPoint& Ort)
+{
+    Nachziehen();
+    QList<QAction*> Bearbeiten;
+    for (const char* Name : {"MNU_Ausschneiden", "MNU_Kopieren", "MNU_Einfügen", "MNU_Löschen"})
+        Bearbeiten << findChild<QAction*>(QString::fromUtf8(Name), Qt::FindDirectChildrenOnly);
+    Notiz_Menue(Notiz, Bearbeiten, [this](const auto& Befehl) { Ausfuehren(Befehl); })->popup(Ort);
+}
+
 // --- files that come from outside ---
 
 // A file dropped on the window is opened as a recent one is: with the question, and without a
@@ -269,7 +369,7 @@ void MDI::Fremde_Aenderung(const QString& Name) { Fremd->Zeigen(Name); }
 void MDI::dragEnterEvent(QDragEnterEvent* Ereignis)
 {
     const QList<QUrl> Orte = Ereignis->mimeData()->urls();
-    if (!Befehl_Laeuft && Orte.size() == 1 && Orte.first().isLocalFile())
+    if ((!Befehl_Laeuft || Kann_Eingreifen()) && Orte.size() == 1 && Orte.first().isLocalFile())
         Ereignis->acceptProposedAction();
 }
 

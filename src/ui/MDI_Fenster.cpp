@@ -4,8 +4,15 @@
 #include "core/shared_state.h"
 #include "core/windows.h"
 #include "ui/Abfrage_Modus_Dialog.h"
+#include "ui/Bereich_Dialog.h"
 #include "ui/Erststart_Dialog.h"
+#include "ui/Geraete_Formulare.h"
+#include "ui/F_SIM_EXRAM.h"
+#include "ui/F_SIM_RAM.h"
+#include "ui/F_SIM_SFR.h"
+#include "ui/HexSuche_Fenster.h"
 #include "ui/Hexedit_Fenster.h"
+#include "ui/Hilfe_Fenster.h"
 #include "ui/Kindfenster.h"
 #include "ui/MDI.h"
 #include "ui/Notiz_Feld.h"
@@ -14,6 +21,8 @@
 #include "ui/Quelltext_Feld.h"
 #include "ui/Spr_Fenster.h"
 #include "ui/Start_Bild.h"
+#include "ui/Suche_Fenster.h"
+#include "ui/Tafel_Fenster.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -23,6 +32,34 @@
 #include <QTimer>
 
 namespace varnholt {
+
+namespace {
+
+bool Ist_Suchform(Formular Welches)
+{
+    return Welches == Formular::F_Suche || Welches == Formular::F_HexSuche;
+}
+
+bool Ist_Bereichsform(Formular Welches)
+{
+    return Welches == Formular::F_Bereich_Kopieren || Welches == Formular::F_Bereich_setzen ||
+           Welches == Formular::F_Bereich_entfernen;
+}
+
+// A search form is built once, and keeps its place from one showing to the next.
+void Suchform_Zeigen(MDI& Haupt, Formular Welches, std::unique_ptr<QWidget>& Form)
+{
+    const auto Weg = [&Haupt](const std::function<void()>& Befehl) { Haupt.Eingreifen(Befehl); };
+    if (!Form && Welches == Formular::F_Suche)
+        Form = std::make_unique<Suche_Fenster>(Weg, &Haupt);
+    else if (!Form)
+        Form = std::make_unique<HexSuche_Fenster>(Weg, &Haupt);
+    Form->show();
+    Form->raise();
+    Form->activateWindow();
+}
+
+} // namespace
 
 Kindfenster* MDI::Kind(int Nummer) const
 {
@@ -175,7 +212,13 @@ void MDI::Hintergrund(std::int32_t Farbe)
         p.setColor(QPalette::Base, Edit->palette().color(QPalette::Base));
         p.setColor(QPalette::Text, Edit->palette().color(QPalette::Text));
     }
-    Spr->setPalette(p);
+    for (QWidget* Feld : {static_cast<QWidget*>(Spr),
+                          static_cast<QWidget*>(Bef),
+                          static_cast<QWidget*>(Basic_Bef),
+                          static_cast<QWidget*>(Sim_RAM_Fenster->Tafel()),
+                          static_cast<QWidget*>(Sim_SFR_Fenster->Tafel()),
+                          static_cast<QWidget*>(Sim_EXRAM_Fenster->Tafel())})
+        Feld->setPalette(p);
 }
 
 void MDI::Schrift_Setzen(int Nummer, const Schrift_T& Schrift)
@@ -195,6 +238,17 @@ void MDI::Schrift_Setzen(int Nummer, const Schrift_T& Schrift)
 
 // --- forms ---
 
+// It is hidden, not closed, and loads its text at each showing.
+void MDI::Hilfe_Zeigen(std::unique_ptr<QWidget>& Form)
+{
+    if (!Form)
+        Form = std::make_unique<Hilfe_Fenster>();
+    static_cast<Hilfe_Fenster*>(Form.get())->Laden();
+    Form->show();
+    Form->raise();
+    Form->activateWindow();
+}
+
 void MDI::Formular_Zeigen(Formular Welches)
 {
     if (Welches == Formular::Optionen) {
@@ -202,8 +256,19 @@ void MDI::Formular_Zeigen(Formular Welches)
         Dialog.exec();
         return;
     }
-    auto&      Form = Formulare[static_cast<std::size_t>(Welches)];
-    const auto Weg  = [this](const std::function<void()>& Befehl) { Ausfuehren(Befehl); };
+    if (Ist_Bereichsform(Welches)) {
+        Bereich_Dialog Dialog(this);
+        Dialog.exec();
+        return;
+    }
+    auto& Form = Formulare[static_cast<std::size_t>(Welches)];
+    if (Geraete_Formular_Zeigen(*this, Welches, Form))
+        return;
+    if (Welches == Formular::F_Hilfe)
+        return Hilfe_Zeigen(Form);
+    if (Ist_Suchform(Welches))
+        return Suchform_Zeigen(*this, Welches, Form);
+    const auto Weg = [this](const std::function<void()>& Befehl) { Ausfuehren(Befehl); };
     switch (Welches) {
     case Formular::Start:
         Form = std::make_unique<Start_Bild>();
@@ -226,10 +291,21 @@ void MDI::Formular_Entladen(Formular Welches)
     if (Welches == Formular::Optionen)
         return;
     auto& Form = Formulare[static_cast<std::size_t>(Welches)];
-    if (Form) {
+    if (Form && Ist_Suchform(Welches)) {
+        const bool Vorn = Form->isActiveWindow();
+        Form->hide();
+        if (Vorn)
+            activateWindow();
+    } else if (Form) {
         Form->hide();
         Form.release()->deleteLater(); // it may be one of its own handlers that asks for this
     }
+}
+
+bool MDI::Formular_Sichtbar(Formular Welches) const
+{
+    const auto& Form = Formulare[static_cast<std::size_t>(Welches)];
+    return Form && Form->isVisible();
 }
 
 void MDI::Start_Text(std::string_view Text)

@@ -1,7 +1,9 @@
 // The menus and the tool bar of the main window.
 #include "ui/Menueleiste.h"
 
+#include "simulator/Sitzung.h"
 #include "ui/Bilder.h"
+#include "ui/Geraete_Menue.h"
 #include "ui/Qt_Text.h"
 
 #include <QAction>
@@ -46,6 +48,7 @@ Menueleiste::Menueleiste(QMainWindow* Fenster, Ausfuehrer_T Ausfuehrer)
     : QObject(Fenster), Besitzer(Fenster), Ausfuehren(std::move(Ausfuehrer))
 {
     Menues_Bauen();
+    Geraete_Bauen();
     Leiste_Bauen();
     Bilder_Laden();
     for (std::size_t i = 0; i < Menue_Anzahl; ++i)
@@ -73,7 +76,7 @@ void Menueleiste::Menues_Bauen()
             Aktion->setShortcut(
                 QKeySequence::fromString(Qt_Text(e.Kuerzel), QKeySequence::PortableText));
             connect(Aktion, &QAction::triggered, this, [this, i] {
-                Ausfuehren([i] { Menue_Ausfuehren(i); });
+                Ausfuehren([i] { Menue_Ausfuehren(i); }, Menue_Im_Lauf(i));
                 Eintrag_Zeigen(i); // Qt has toggled the tick by itself
             });
         }
@@ -83,6 +86,15 @@ void Menueleiste::Menues_Bauen()
         else
             Untermenues[Menue_Platz(e.Eltern)]->addAction(Aktion);
     }
+}
+
+// The devices hang below their entry; a choice waits for the end of a running program.
+void Menueleiste::Geraete_Bauen()
+{
+    const std::size_t Platz = Menue_Platz("MNU_IC_Typ");
+    Untermenues[Platz]      = new Geraete_Menue(
+        Besitzer, [this](const std::function<void()>& Befehl) { Ausfuehren(Befehl, false); });
+    Eintraege[Platz]->setMenu(Untermenues[Platz]);
 }
 
 void Menueleiste::Leiste_Bauen()
@@ -100,7 +112,7 @@ void Menueleiste::Leiste_Bauen()
         auto* Aktion = new QAction(Besitzer);
         Aktion->setObjectName(QStringLiteral("Toolbar_") + Qt_Text(w.Schluessel));
         connect(Aktion, &QAction::triggered, this, [this, s = w.Schluessel] {
-            Ausfuehren([s] { Werkzeug_Ausfuehren(s); });
+            Ausfuehren([s] { Werkzeug_Ausfuehren(s); }, Werkzeug_Im_Lauf(s));
         });
         Leiste->addAction(Aktion);
         Knoepfe[static_cast<std::size_t>(w.Position)] = Aktion;
@@ -118,6 +130,16 @@ void Menueleiste::Bilder_Laden()
     }
     for (const auto& [Name, Datei] : Bild_Namen)
         Eintrag(Name)->setIcon(Symbol_Bild(QString::fromLatin1(Datei), p));
+    Start_Bild_Zeigen();
+}
+
+// The button that starts a program stops it while it runs, and looks so.
+void Menueleiste::Start_Bild_Zeigen()
+{
+    Laeuft_Gezeigt     = Debug_Laeuft;
+    const QIcon Symbol = Symbol_Bild(Laeuft_Gezeigt ? u"Stoppen" : u"Starten", Besitzer->palette());
+    Knoepfe[Werkzeug_Starten]->setIcon(Symbol);
+    Eintrag("MNU_deb_Starten")->setIcon(Symbol);
 }
 
 void Menueleiste::Eintrag_Zeigen(std::size_t Platz)
@@ -163,6 +185,8 @@ void Menueleiste::Nachziehen()
         if (Gezeigte_Knoepfe[static_cast<std::size_t>(w.Position)] != Soll)
             Knopf_Zeigen(w.Position);
     }
+    if (Laeuft_Gezeigt != Debug_Laeuft)
+        Start_Bild_Zeigen();
 }
 
 QMenu* Menueleiste::Menue_Von(std::string_view Name) const

@@ -19,8 +19,9 @@ class Menueleiste : public QObject {
     Q_OBJECT
 
 public:
-    // Ausfuehrer runs a command of the logic (and nothing while another one runs).
-    using Ausfuehrer_T = std::function<void(const std::function<void()>&)>;
+    // Ausfuehrer runs a command of the logic (and nothing while another one runs). Im_Lauf: it may
+    // come while the debugger runs a program.
+    using Ausfuehrer_T = std::function<void(const std::function<void()>&, bool Im_Lauf)>;
     Menueleiste(QMainWindow* Fenster, Ausfuehrer_T Ausfuehrer);
 
     // Brings captions, ticks, visible and enabled entries to the state.
@@ -32,10 +33,12 @@ public:
 
 private:
     void Menues_Bauen();
+    void Geraete_Bauen();
     void Leiste_Bauen();
     void Eintrag_Zeigen(std::size_t Platz);
     void Menueleiste_Beschriften();
     void Knopf_Zeigen(int Position);
+    void Start_Bild_Zeigen();
 
     struct Gezeigt_T {
         Menue_Zustand_T Zustand{};
@@ -51,6 +54,7 @@ private:
     std::array<QAction*, Werkzeug_Plaetze + 1>           Knoepfe{};
     std::array<Gezeigt_T, Menue_Anzahl>                  Gezeigte_Eintraege{};
     std::array<Werkzeug_Zustand_T, Werkzeug_Plaetze + 1> Gezeigte_Knoepfe{};
+    bool                                                 Laeuft_Gezeigt = false;
 };
 
 } // namespace varnholt

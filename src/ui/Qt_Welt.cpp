@@ -5,6 +5,7 @@
 #include "core/messages.h"
 #include "core/shared_state.h"
 #include "core/version.h"
+#include "simulator/Sitzung.h"
 #include "ui/Abfrage_Dialog.h"
 #include "ui/Qt_Text.h"
 #include "ui/Verknuepfung.h"
@@ -20,6 +21,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 #include <QTime>
 #include <QTimer>
 #include <QUrl>
@@ -80,12 +82,14 @@ public:
     Ohne_Wartezeiger& operator=(const Ohne_Wartezeiger&) = delete;
 };
 
-// A modal window (the progress dialog) keeps the others out of reach by itself; without one, keys
-// and clicks wait until the running command is through.
+// A modal window (the progress dialog) keeps the others out of reach by itself, and a program that
+// the debugger runs is at the user's command; else keys and clicks wait until the running command
+// is through.
 QEventLoop::ProcessEventsFlag Art_Der_Runde()
 {
-    return QApplication::activeModalWidget() != nullptr ? QEventLoop::AllEvents
-                                                        : QEventLoop::ExcludeUserInputEvents;
+    return QApplication::activeModalWidget() != nullptr || Programm_Laeuft()
+               ? QEventLoop::AllEvents
+               : QEventLoop::ExcludeUserInputEvents;
 }
 
 QWidget* Oberstes() { return QApplication::activeWindow(); }
@@ -175,9 +179,16 @@ void Qt_Ereignisse::Pause(double Sekunden)
 {
     if (Uhr)
         return Eine_Runde();
-    QEventLoop Schleife;
+    QEventLoop                 Schleife;
+    const QScopedValueRollback Diese(Pausierend, &Schleife);
     QTimer::singleShot(static_cast<int>(Sekunden * 1000), &Schleife, &QEventLoop::quit);
     Schleife.exec(Art_Der_Runde());
+}
+
+void Qt_Ereignisse::Pause_Beenden()
+{
+    if (Pausierend != nullptr)
+        Pausierend->quit();
 }
 
 void Qt_Ereignisse::Titel(int Fenster, std::string_view Text)
@@ -190,6 +201,8 @@ double Qt_Ereignisse::Sekunden()
 {
     return Uhr ? Uhr() : QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
 }
+
+void Qt_Ereignisse::Ton() { QApplication::beep(); }
 
 // --- dialogs ---
 

@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class QEventLoop;
 class QWidget;
 
 namespace varnholt {
@@ -29,6 +30,8 @@ public:
     void   Pause(double Sekunden) override;
     void   Titel(int Fenster, std::string_view Text) override;
     double Sekunden() override;
+    void   Pause_Beenden(); // the one that is under way, if any
+    void   Ton() override;
 
     std::function<double()>                    Uhr{};         // empty: the clock of the day
     std::function<void()>                      Nachziehen{};  // brings the windows to the state
@@ -36,7 +39,8 @@ public:
     std::function<void(int, std::string_view)> Bei_Titel{};   // caption of a child window
 
 private:
-    bool Zeiger_Wartet = false;
+    bool        Zeiger_Wartet = false;
+    QEventLoop* Pausierend    = nullptr; // null: no pause is under way
 };
 
 class Qt_Dialoge : public Dialoge {

@@ -2,6 +2,7 @@
 #include "ui/Quelltext_Feld.h"
 
 #include "core/settings.h"
+#include "core/shared_state.h"
 #include "editors/Quelltext.h"
 #include "ui/Qt_Text.h"
 #include "ui/Tasten.h"
@@ -102,9 +103,12 @@ Quelltext_Feld::Quelltext_Feld(QWidget* Eltern)
 // --- events to the logic ---
 
 // The logic hears of a move when the event that made it is over: it may show a box or change the
-// text, which must not happen in the middle of Qt's own handling.
+// text, which must not happen in the middle of Qt's own handling. Of a move that the logic makes on
+// its own account it doesn't hear.
 void Quelltext_Feld::Bewegung_Vormerken()
 {
+    if (Text_Sperre)
+        return;
     if (!Bewegt)
         QTimer::singleShot(0, this, &Quelltext_Feld::Bewegung_Melden);
     Bewegt = true;
@@ -233,8 +237,11 @@ void Quelltext_Feld::wheelEvent(QWheelEvent* Ereignis)
 void Quelltext_Feld::changeEvent(QEvent* Ereignis)
 {
     Text_Feld::changeEvent(Ereignis);
-    if (Ereignis->type() == QEvent::PaletteChange)
-        Aktuelle_Zeile_Zeigen();
+    if (Ereignis->type() != QEvent::PaletteChange)
+        return;
+    Aktuelle_Zeile_Zeigen();
+    if (Nummern != nullptr)
+        Nummern->update();
 }
 
 void Quelltext_Feld::Aktuelle_Zeile_Zeigen()
@@ -246,9 +253,7 @@ void Quelltext_Feld::Aktuelle_Zeile_Zeigen()
     Zeile.format.setProperty(QTextFormat::FullWidthSelection, true);
     Zeile.cursor = textCursor();
     Zeile.cursor.clearSelection();
-    setExtraSelections({Zeile});
-    if (Nummern != nullptr)
-        Nummern->update();
+    setExtraSelections({Zeile}); // draws the two lines, and their numbers with them
 }
 
 int Quelltext_Feld::Nummern_Breite() const

@@ -53,8 +53,11 @@ QString Zeilenende_Name()
 
 void Zeigen(QLabel* Feld, const QString& Text)
 {
-    if (Feld->text() != Text)
+    if (Feld->text() != Text) {
         Feld->setText(Text);
+        // A label of a fixed size takes its next text without a new layout of the whole line.
+        Feld->setFixedSize(Feld->sizeHint().expandedTo(Feld->minimumSize()));
+    }
     Feld->setVisible(!Text.isEmpty());
 }
 

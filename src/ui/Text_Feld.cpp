@@ -3,6 +3,7 @@
 
 #include "core/codepage.h"
 #include "ui/Qt_Text.h"
+#include "ui/Reich_Qt.h"
 
 #include <QApplication>
 #include <QDragEnterEvent>
@@ -15,8 +16,6 @@
 
 namespace varnholt {
 namespace {
-
-constexpr int Farb_Eigenschaft = QTextFormat::UserProperty + 1; // the colour as the logic knows it
 
 // What a plain text control would take for the end of a line, or for a mark of its own.
 bool Zeilen_Trenner(QChar c)
@@ -39,14 +38,6 @@ std::int32_t Farbe_Von(const QTextCharFormat& Format)
 double Helligkeit(const QColor& c)
 {
     return 0.299 * c.redF() + 0.587 * c.greenF() + 0.114 * c.blueF();
-}
-
-// A colour on a dark ground: the same hue, light enough to be read.
-QColor Aufgehellt(const QColor& Farbe)
-{
-    float h = 0, s = 0, l = 0;
-    Farbe.getHslF(&h, &s, &l);
-    return QColor::fromHslF(h < 0 ? 0 : h, s * 0.75F, std::max(l, 0.70F));
 }
 
 // Where a line begins, as the logic counts: each line end ahead of it is one more there.
@@ -254,10 +245,9 @@ std::string Text_Feld::Auswahl_Text_UTF8() const
 // What is inserted takes the colour of the character ahead of it, or of the first one replaced.
 void Text_Feld::Auswahl_Tauschen(const QString& Neuer)
 {
-    const Textstelle_T Alt    = Auswahl();
-    const std::int32_t Farbe  = Farbe_An(Alt.Laenge > 0 ? Alt.Anfang : Alt.Anfang - 1);
-    QTextCursor        Zeiger = textCursor();
-    Zeiger.insertText(Ohne_Fremde_Trenner(Neuer), Format_Fuer(Farbe));
+    const QTextCharFormat Format = Format_Neben(Auswahl());
+    QTextCursor           Zeiger = textCursor();
+    Zeiger.insertText(Ohne_Fremde_Trenner(Neuer), Format);
     setTextCursor(Zeiger);
 }
 
@@ -265,9 +255,9 @@ void Text_Feld::Auswahl_Ersetzen(std::string_view Neuer) { Auswahl_Tauschen(Qt_A
 
 void Text_Feld::Ersetzen(Textstelle_T Alt, std::string_view Neuer)
 {
-    const std::int32_t Farbe = Farbe_An(Alt.Laenge > 0 ? Alt.Anfang : Alt.Anfang - 1);
+    const QTextCharFormat Format = Format_Neben(Alt);
     QTextCursor Zeiger = Stueck(Alt.Anfang, Alt.Laenge); // the control's own one is moved along
-    Zeiger.insertText(Ohne_Fremde_Trenner(Qt_Aus_1252(Neuer)), Format_Fuer(Farbe));
+    Zeiger.insertText(Ohne_Fremde_Trenner(Qt_Aus_1252(Neuer)), Format);
 }
 
 void Text_Feld::Auswahl_Ersetzen_UTF8(std::string_view Neuer) { Auswahl_Tauschen(Qt_Text(Neuer)); }
@@ -276,20 +266,26 @@ void Text_Feld::Auswahl_Ersetzen_UTF8(std::string_view Neuer) { Auswahl_Tauschen
 
 QTextCharFormat Text_Feld::Format_Fuer(std::int32_t Farbe) const
 {
-    QTextCharFormat Format;
-    if (Farbe == 0)
-        return Format;
-    const QColor Gewuenscht = Qt_Farbe(Farbe);
-    Format.setProperty(Farb_Eigenschaft, Farbe);
-    Format.setForeground(Dunkel() ? Aufgehellt(Gewuenscht) : Gewuenscht);
-    return Format;
+    return Farbe == 0 ? QTextCharFormat{} : Farb_Format(Farbe, Dunkel());
+}
+
+QTextCharFormat Text_Feld::Format_Neben(Textstelle_T Alt) const
+{
+    return Format_Fuer(Farbe_An(Alt.Laenge > 0 ? Alt.Anfang : Alt.Anfang - 1));
+}
+
+void Text_Feld::Stueck_Faerben(QTextCursor& Zeiger, std::int32_t Farbe) const
+{
+    Zeiger.setCharFormat(Format_Fuer(Farbe));
 }
 
 void Text_Feld::Auswahl_Faerben(std::int32_t Farbe)
 {
     const Textstelle_T a = Auswahl();
     if (a.Laenge == 0) {
-        setCurrentCharFormat(Format_Fuer(Farbe));
+        QTextCursor Zeiger = textCursor();
+        Stueck_Faerben(Zeiger, Farbe);
+        setCurrentCharFormat(Zeiger.charFormat());
         return;
     }
     const Farbstelle_T f{a.Anfang, a.Laenge, Farbe};
@@ -305,7 +301,7 @@ void Text_Feld::Faerben(std::span<const Farbstelle_T> Stellen)
     for (const Farbstelle_T& f : Stellen) {
         c.setPosition(Ort.Nach_Qt(f.Anfang));
         c.setPosition(Ort.Nach_Qt(f.Anfang + f.Laenge), QTextCursor::KeepAnchor);
-        c.setCharFormat(Format_Fuer(f.Farbe));
+        Stueck_Faerben(c, f.Farbe);
     }
     c.endEditBlock();
 }

@@ -60,6 +60,14 @@ protected:
     int          Nach_Qt(std::int64_t Stelle) const;
     std::int64_t Aus_Qt(int Stelle) const;
     bool         Dunkel() const; // the background is dark
+    QTextCursor  Stueck(std::int64_t Anfang, std::int64_t Laenge) const;
+    // Look of what is put in place of a piece: the colour of its first character, or of the one
+    // ahead of an empty one.
+    virtual QTextCharFormat Format_Neben(Textstelle_T Alt) const;
+    // Colours the cursor's selection; a control of plain text has no other look to keep.
+    virtual void Stueck_Faerben(QTextCursor& Zeiger, std::int32_t Farbe) const;
+
+    bool Still = false; // a change that nobody is to be told of
 
 private:
     void            Inhalt_Einsetzen(const QString& Neuer);
@@ -67,7 +75,6 @@ private:
     std::string     Spiegel_Stueck(int Anfang, int Ende);
     void            Farben_Nachfuehren(int Anfang, int Ende, std::int64_t Verschiebung);
     void            Auswahl_Tauschen(const QString& Neuer);
-    QTextCursor     Stueck(std::int64_t Anfang, std::int64_t Laenge) const;
     QTextCharFormat Format_Fuer(std::int32_t Farbe) const;
     void            Farben_Neu_Zeigen();
     void            Palette_Setzen();
@@ -78,7 +85,6 @@ private:
     std::int32_t Hintergrund = 0xFFFFFF;
     int          Zeichnen_Gehalten    = 0;     // depth of Zeichnen_Anhalten
     bool         Nur_Farben           = false; // a change that leaves the characters
-    bool         Still                = false; // a change that nobody is to be told of
     bool         Palette_Wird_Gesetzt = false;
 };
 

@@ -127,9 +127,6 @@ TEST_F(Cli, what_is_wrong_on_the_command_line_is_told_before_the_device_is_touch
         Laufen({"program", "a.bin", "--device", "27C64", "--port", "sim:c.bin", "--ic-from", "x"})
             .Status,
         2);
-    EXPECT_EQ(Laufen({"program", "a.bin", "--device", "27SF256", "--port", "sim:c.bin", "--erase"})
-                  .Status,
-              2);
     EXPECT_EQ(Laufen({"read", "--device", "27C64", "--port", "sim:c.bin", "-o", "x.asm"}).Status,
               2);
     EXPECT_FALSE(Da("c.bin"));
@@ -244,18 +241,6 @@ TEST_F(Cli, ports_and_devices_that_do_not_exist_are_told)
     EXPECT_TRUE(Enthaelt(r.Fehler, "Portdriver has not been loaded sucessfully."));
 }
 
-TEST_F(Cli, devices_of_later_routines_are_not_available_yet)
-{
-    Schreiben("a.bin", "A");
-    for (const char* Geraet : {"28C64", "29C010", "28F010", "89C2051", "89C51"}) {
-        const auto r = Laufen({"program", "a.bin", "--device", Geraet, "--port", "sim"});
-        EXPECT_EQ(r.Status, 2) << Geraet;
-        EXPECT_TRUE(Enthaelt(r.Fehler, "not available yet")) << Geraet << r.Fehler;
-    }
-    EXPECT_EQ(Laufen({"read", "--device", "89C51", "--port", "sim", "-o", "b.bin"}).Status, 2);
-    EXPECT_FALSE(Da("b.bin"));
-}
-
 // The command line's own errors, in both languages.
 struct Eigener_Fehler {
     std::vector<std::string> Zeile;
@@ -280,12 +265,13 @@ TEST_F(Cli, the_errors_of_the_command_line_come_in_both_languages)
         {{"convert", "a.bin", "-o", "b.asm"}, 2, "b.asm is the name of a source, not of an image", "b.asm ist der Name eines Quelltextes und nicht der eines Abbilds"},
         {{"compare", "-", "-"}, 2, "standard input can be read only once", "Die Standardeingabe kann nur einmal gelesen werden"},
         {{"devices", "X1"}, 2, "there is no device X1 in Spec.ini", "In Spec.ini gibt es kein IC X1."},
-        {{"lock"}, 2, "lock: not available yet", "lock: noch nicht verfügbar"},
+        {{"lock", "--device", "27C64", "--port", "sim", "--mode", "2"}, 2, "the device 27C64 has no lock bits", "Das IC 27C64 hat keine Lockbits"},
+        {{"lock", "--device", "89C2051", "--port", "sim", "--mode", "4"}, 2, "the device 89C2051 has no mode 4", "Das IC 89C2051 hat keinen Modus 4"},
+        {{"clock", "--device", "48Z08", "--port", "sim"}, 2, "the device 48Z08 has no clock", "Das IC 48Z08 hat keine Uhr"},
         {Mit(Check, {"usb"}), 2, "there is no port usb", "Es gibt keinen Port usb"},
         {Mit(Check, {"io:xyz"}), 2, "io: wants the base address of a port, as io:378", "io: braucht die Basisadresse eines Ports, wie io:378"},
         {Mit(Check, {"sim", "--trace", "no/such/folder"}), 3, "The trace can't be written.", "Die Aufzeichnung kann nicht geschrieben werden."},
         {Mit(Check, {"sim:short"}), 3, "short: The file doesn't have the size of the device (8192 bytes).", "short: Die Datei hat nicht die Größe des Bausteins (8192 Bytes)."},
-        {{"check", "a.bin", "--device", "89C51", "--port", "sim"}, 2, "this is not available yet for the device 89C51", "Das ist für das IC 89C51 noch nicht verfügbar"},
         {{"program", "a.bin", "--device", "27C64", "--port", "sim", "--ic-from", "12x"}, 2, "12x is no address", "12x ist keine Adresse"},
         {{"program", "a.bin", "--device", "27C64", "--port", "sim", "--ic-from", "8190"}, 2, "the range doesn't fit: editor 0 to 3, IC from 8190, IC up to 8191", "Der Bereich passt nicht: Editor 0 bis 3, IC ab 8190, IC bis 8191"},
         {{"check", "a.bin", "--device", "", "--port", "sim"}, 1, "Please choose first a IC", "Bitte wählen Sie zuerst ein IC"},

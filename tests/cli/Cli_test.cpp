@@ -57,15 +57,6 @@ TEST_F(Cli, a_wrong_command_line_is_status_2)
     EXPECT_EQ(Laufen({"--language", "F", "devices"}).Status, 2);
 }
 
-TEST_F(Cli, the_commands_to_come_say_that_they_are_not_available_yet)
-{
-    for (const char* k : {"simulate", "erase", "lock", "clock"}) {
-        const auto r = Laufen({k, "file", "--port", "sim", "--device", "27C64"});
-        EXPECT_EQ(r.Status, 2) << k;
-        EXPECT_TRUE(Enthaelt(r.Fehler, "not available yet")) << k;
-    }
-}
-
 // --- assemble ---
 
 TEST_F(Cli, assemble_writes_every_format_by_its_extension)

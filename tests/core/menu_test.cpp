@@ -5,6 +5,7 @@
 #include "core/shared_state.h"
 #include "core/windows.h"
 #include "files/Datei_Zustand.h"
+#include "simulator/Debug.h"
 #include "support/scripted_platform.h"
 
 #include <map>
@@ -331,49 +332,10 @@ TEST_F(Menue_Welt, a_hidden_entry_does_nothing)
     Klicken("MNU_Info");
     EXPECT_TRUE(Box.Meldungen.empty());
 }
-TEST_F(Menue_Welt, what_is_still_to_come_is_not_ready)
+TEST_F(Menue_Welt, every_entry_has_a_command_or_opens_a_menu)
 {
-    for (const char* Name : {"MNU_PrinterConfig",
-                             "MNU_PrintDialog",
-                             "MNU_Suche",
-                             "MNU_Weitersuchen",
-                             "MNU_Ber_Kopieren",
-                             "MNU_Ber_setzen",
-                             "MNU_Ber_entfernen",
-                             "MNU_Debugger_Stoppunkt",
-                             "MNU_IC_Lesen",
-                             "MNU_IC_Brennen",
-                             "MNU_IC_Löschen",
-                             "MNU_IC_Prüfen",
-                             "MNU_IC_LockBits",
-                             "MNU_IC_Typ",
-                             "MNU_Tessel2_Hardware_Version",
-                             "MNU_Hardware_Version",
-                             "MNU_TimeKeeper_ReadTime",
-                             "MNU_Bef",
-                             "MNU_Basic",
-                             "MNU_CONTROL",
-                             "MNU_RAM",
-                             "MNU_SFR",
-                             "MNU_EXRAM",
-                             "MNU_deb_Vorbereitung",
-                             "MNU_deb_Starten",
-                             "MNU_deb_up",
-                             "MNU_deb_down",
-                             "MNU_deb_Einzelschritt",
-                             "MNU_jump_cursor",
-                             "MNU_deb_reset_adr",
-                             "MNU_deb_reset",
-                             "MNU_deb_beenden",
-                             "MNU_Eprommer_Test",
-                             "MNU_Tessel2_Test",
-                             "MNU_EEprommer"}) {
-        ASSERT_LT(Platz(Name), Menue_Anzahl) << Name;
-        EXPECT_FALSE(Menue_Hat_Befehl(Platz(Name))) << Name;
-        EXPECT_FALSE(Menue_Bereit(Platz(Name))) << Name;
-        Klicken(Name);
-    }
-    EXPECT_TRUE(Box.Meldungen.empty());
+    for (std::size_t i = 0; i < Menue_Anzahl; ++i)
+        EXPECT_EQ(Menue_Hat_Befehl(i), !Menue_Tabelle[i].Trennlinie()) << Menue_Tabelle[i].Name;
 }
 TEST_F(Menue_Welt, all_other_entries_are_ready)
 {
@@ -410,6 +372,20 @@ TEST_F(Menue_Welt, all_other_entries_are_ready)
                              "MNU_S_Bücher",
                              "MNU_Deutsch",
                              "MNU_Englisch",
+                             "MNU_CONTROL",
+                             "MNU_RAM",
+                             "MNU_SFR",
+                             "MNU_EXRAM",
+                             "MNU_deb_Vorbereitung",
+                             "MNU_deb_Starten",
+                             "MNU_deb_up",
+                             "MNU_deb_down",
+                             "MNU_deb_Einzelschritt",
+                             "MNU_jump_cursor",
+                             "MNU_deb_reset_adr",
+                             "MNU_deb_reset",
+                             "MNU_deb_beenden",
+                             "MNU_Debugger_Stoppunkt",
                              "MNU_Info",
                              "MNU_Help"})
         EXPECT_TRUE(Menue_Bereit(Platz(Name))) << Name;
@@ -444,7 +420,7 @@ TEST_F(Menue_Welt, the_mode_button_changes_the_mode)
 }
 TEST_F(Menue_Welt, an_unknown_key_does_nothing)
 {
-    for (const char* Schluessel : {"EPCheck", "Reset", "neu", "", "MNU_Neu"})
+    for (const char* Schluessel : {"EPCheck", "reset", "neu", "", "MNU_Neu"})
         Werkzeug_Ausfuehren(Schluessel);
     EXPECT_TRUE(Box.Meldungen.empty() && Dialog.Gefragt.empty() && Ereignisse.Titel_Texte.empty());
 }
@@ -454,10 +430,53 @@ TEST_F(Menue_Welt, a_button_is_ready_with_its_state_and_its_command)
     Werkzeug(14).Aktiv = false;
     EXPECT_FALSE(Werkzeug_Bereit(14));
     EXPECT_TRUE(Werkzeug_Bereit(Werkzeug_Umschalten));
-    for (const int Position : {7, 12, 17, 18, 19, 23, 24, 28})
-        EXPECT_FALSE(Werkzeug_Bereit(Position)) << Position;
+    for (const Werkzeug_Eintrag_T& w : Werkzeug_Tabelle)
+        EXPECT_EQ(Werkzeug_Bereit(w.Position), Werkzeug(w.Position).Aktiv) << w.Position;
     for (const int Luecke : {0, 1, 3, 29, -1})
         EXPECT_FALSE(Werkzeug_Bereit(Luecke)) << Luecke;
+}
+TEST_F(Menue_Welt, the_key_Reset_resets_the_memories_and_has_no_button)
+{
+    Sim_RAM.fill(1);
+    Sim_XRAM.fill(1);
+    Sim_Prio = 3;
+    Werkzeug_Ausfuehren("Reset");
+    EXPECT_EQ(Sim_RAM[0], 255);
+    EXPECT_EQ(Sim_XRAM[65535], 255);
+    EXPECT_EQ(Sim_Prio, -1);
+    Sim_RAM.fill(1);
+    Menue("MNU_deb_reset").Aktiv = false;
+    Werkzeug_Ausfuehren("Reset");
+    EXPECT_EQ(Sim_RAM[0], 1);
+}
+TEST_F(Menue_Welt, during_a_run_only_what_leaves_text_image_and_mode_alone_may_come)
+{
+    for (const char* Name : {"MNU_deb_Starten",
+                             "MNU_deb_beenden",
+                             "MNU_deb_reset",
+                             "MNU_CONTROL",
+                             "MNU_EXRAM",
+                             "MNU_Save",
+                             "MNU_Deutsch",
+                             "MNU_Debugger_Stoppunkt"})
+        EXPECT_TRUE(Menue_Im_Lauf(Platz(Name))) << Name;
+    for (const char* Name : {"MNU_Neu",
+                             "MNU_Load",
+                             "MNU_Datei1",
+                             "MNU_Ende",
+                             "MNU_Undo",
+                             "MNU_MC",
+                             "MNU_Hex",
+                             "MNU_Optionen",
+                             "MNU_Leer3",
+                             "MNU_Datei"})
+        EXPECT_FALSE(Menue_Im_Lauf(Platz(Name))) << Name;
+    EXPECT_FALSE(Menue_Im_Lauf(Menue_Anzahl));
+    EXPECT_TRUE(Werkzeug_Im_Lauf("Starten"));
+    EXPECT_TRUE(Werkzeug_Im_Lauf("Beenden"));
+    EXPECT_FALSE(Werkzeug_Im_Lauf("Neu"));
+    EXPECT_FALSE(Werkzeug_Im_Lauf("Umschalten"));
+    EXPECT_FALSE(Werkzeug_Im_Lauf("nobody"));
 }
 TEST_F(Menue_Welt, a_disabled_button_does_nothing)
 {

@@ -9,10 +9,13 @@
 #include "files/Dateien_Welt.h"
 #include "files/Textdatei.h"
 
+#include <csignal>
 #include <filesystem>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <sys/resource.h>
 
 namespace varnholt::test {
 namespace {
@@ -560,6 +563,95 @@ TEST_F(Undo_Test, after_20_autosaves_the_series_holds_the_first_and_the_19_newes
         EXPECT_EQ(Bytes_Von(Autosave(i)), std::to_string(i + 1)) << i;
     EXPECT_EQ(Bytes_Von(Autosave(20)), "<missing>");
     EXPECT_EQ(Autosave_Nummer, 0);
+}
+
+// A disk that is full: no file may grow beyond some bytes.
+class Voller_Datentraeger {
+public:
+    explicit Voller_Datentraeger(rlim_t Bytes)
+    {
+        ::getrlimit(RLIMIT_FSIZE, &Vorher);
+        std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
+        const rlimit Eng{Bytes, Vorher.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &Eng);
+    }
+    ~Voller_Datentraeger()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &Vorher);
+        std::signal(SIGXFSZ, SIG_DFL);
+    }
+    Voller_Datentraeger(const Voller_Datentraeger&)            = delete;
+    Voller_Datentraeger& operator=(const Voller_Datentraeger&) = delete;
+
+private:
+    rlimit Vorher{};
+};
+
+TEST_F(Undo_Test, a_full_series_has_the_file_of_the_marker_at_every_moment)
+{
+    for (int i = 0; i < 20; ++i) {
+        Feld.Text_Setzen("text " + std::to_string(i));
+        Autosave_Speichern();
+    }
+    ASSERT_EQ(Bytes_Von(Ordner.Name("startup")), Autosave(19) + "\r\n");
+    Feld.Text_Setzen(std::string(5000, ';'));
+    {
+        const Voller_Datentraeger Platte(100); // ends between the shift and the new file
+        Autosave_Speichern();
+    }
+    EXPECT_EQ(Bytes_Von(Autosave(19)), "text 19") << "the marker's file is still the last one";
+    EXPECT_EQ(Bytes_Von(Autosave(18)), "text 19");
+    EXPECT_EQ(Bytes_Von(Autosave(0)), "text 0");
+    EXPECT_EQ(Box.Hinweise.size(), 1u);
+    Autosave_Speichern();
+    EXPECT_EQ(Bytes_Von(Autosave(19)), std::string(5000, ';'));
+    for (int i = 1; i < 19; ++i)
+        EXPECT_EQ(Bytes_Von(Autosave(i)), "text " + std::to_string(i + 1)) << "shifted once";
+}
+
+TEST_F(Undo_Test, the_text_that_filled_a_gap_outlives_the_next_shift)
+{
+    for (const int i : {0, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19})
+        Ordner.Anlegen("Autosave/autosave" + std::to_string(i) + ".asm", "old");
+    Feld.Text_Setzen("newest");
+    Autosave_Speichern();
+    ASSERT_EQ(Bytes_Von(Ordner.Name("startup")), Autosave(1) + "\r\n");
+    Feld.Text_Setzen(std::string(5000, ';'));
+    const std::string Zuflucht = Ordner.Name("Autosave/autosave-last.asm");
+    for (int i = 0; i < 2; ++i) {
+        const Voller_Datentraeger Platte(200);
+        Autosave_Speichern();
+        EXPECT_EQ(Bytes_Von(Ordner.Name("startup")), Zuflucht + "\r\n");
+        EXPECT_EQ(Bytes_Von(Zuflucht), "newest");
+    }
+    Autosave_Speichern();
+    EXPECT_EQ(Bytes_Von(Ordner.Name("startup")), Autosave(19) + "\r\n");
+    EXPECT_EQ(Bytes_Von(Autosave(19)), std::string(5000, ';'));
+    EXPECT_FALSE(fs::exists(Zuflucht));
+}
+
+TEST_F(Undo_Test, on_a_full_disk_a_snapshot_is_told_and_costs_nothing_else)
+{
+    Zeile_Schreiben("one");
+    const Undo_T Vorher = Undo;
+    Feld.Text_Setzen(std::string(5000, 'x'));
+    Feld.Auswaehlen(17, 4);
+    Text_Veraendert = true;
+    {
+        const Voller_Datentraeger Platte(100);
+        Undo_Schritt_speichern();
+    }
+    EXPECT_EQ(Feld.Text(), std::string(5000, 'x'));
+    EXPECT_EQ(Feld.Auswahl().Anfang, 17);
+    EXPECT_EQ(Undo_Index, Vorher.Undo_Index);
+    EXPECT_EQ(Undo_Ende, Vorher.Undo_Ende);
+    EXPECT_EQ(Undo_Oben, Vorher.Undo_Oben);
+    EXPECT_TRUE(Text_Veraendert);
+    EXPECT_TRUE(Undo_An()) << "the steps before stay";
+    EXPECT_EQ(Box.Hinweise.size(), 1u);
+    EXPECT_TRUE(Box.Meldungen.empty());
+    Undo_Schritt_speichern();
+    EXPECT_EQ(Undo_Index, Vorher.Undo_Index + 1) << "there is room again";
 }
 
 TEST_F(Undo_Test, autosave_writes_the_crash_marker_with_the_full_path)

@@ -114,6 +114,24 @@ TEST_F(Web_Welt, a_help_that_is_not_installed_is_told)
               "Die Hilfe ist nicht installiert: " + Programm_Pfad + "Hilfe/Hilfe-Index.htm fehlt.");
     EXPECT_TRUE(Umgebung.Orte.empty());
 }
+TEST_F(Web_Welt, the_short_help_stands_in_for_a_handbook_that_can_not_be_shown)
+{
+    const auto Offen = [this] { return Fenster.Formular_Sichtbar(Formular::F_Hilfe); };
+    for (const char* s : {"D", "E"}) {
+        Sprache = s;
+        Fenster.Formular_Entladen(Formular::F_Hilfe);
+        MNU_Help_Click();
+        EXPECT_TRUE(Offen()) << s;
+    }
+    Fenster.Formular_Entladen(Formular::F_Hilfe);
+    Anlegen("Help", "Help-Index.htm");
+    MNU_Help_Click();
+    EXPECT_FALSE(Offen());
+    Umgebung.Nimmt_An = false;
+    MNU_Help_Click();
+    EXPECT_TRUE(Offen());
+    EXPECT_TRUE(Box.Hinweise.back().ends_with("Help-Index.htm could not be opened."));
+}
 TEST_F(Web_Welt, the_information_is_name_and_version)
 {
     MNU_Info_Click();

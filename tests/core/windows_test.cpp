@@ -5,6 +5,8 @@
 #include "core/menu.h"
 #include "core/shared_state.h"
 #include "core/views.h"
+#include "simulator/Debug.h"
+#include "simulator/Sim_Ansichten.h"
 #include "support/scripted_platform.h"
 
 #include <gtest/gtest.h>
@@ -81,6 +83,14 @@ TEST_P(Anordnung, the_two_references_and_the_four_debugger_windows_tile_the_side
 {
     Kacheln({Haupt, Fenster_Bef, Fenster_Basic});
     Kacheln({Haupt, Fenster_CONTROL, Fenster_RAM, Fenster_SFR, Fenster_EXRAM});
+}
+
+TEST_P(Anordnung, in_a_wide_column_two_views_stand_side_by_side)
+{
+    const bool Breit = Flaeche.Breite - Lagen[P(Haupt)].Breite >= 660;
+    EXPECT_EQ(Lagen[P(Fenster_RAM)].Oben == Lagen[P(Fenster_SFR)].Oben, Breit);
+    EXPECT_EQ(Lagen[P(Fenster_CONTROL)].Oben, Flaeche.Oben);
+    EXPECT_GE(Lagen[P(Fenster_CONTROL)].Hoehe, Flaeche.Hoehe / 4);
 }
 
 INSTANTIATE_TEST_SUITE_P(Flaechen,
@@ -280,6 +290,21 @@ TEST_F(Fenster_Welt, the_standard_arrangement_leaves_a_session_its_windows)
     EXPECT_FALSE(Fenster.Zu(Fenster_SFR).Sichtbar);
 }
 
+TEST_F(Fenster_Welt, before_its_first_arrangement_a_session_has_all_four_windows)
+{
+    Fensterlage = {};
+    MNU_G_Einstellung_Click();
+    for (int n = Fenster_RAM; n <= Fenster_CONTROL; ++n) {
+        EXPECT_EQ(Fenster_Wert(1, n, Feld::Sichtbar), -1) << n;
+        EXPECT_EQ(Fenster_Wert(0, n, Feld::Sichtbar), 0) << n;
+        EXPECT_FALSE(Fenster.Zu(n).Sichtbar) << n; // no session is on
+    }
+    Fenster_Wert(1, Fenster_EXRAM, Feld::Sichtbar) = 0;
+    MNU_G_Einstellung_Click(); // from now on they are the user's
+    EXPECT_EQ(Fenster_Wert(1, Fenster_EXRAM, Feld::Sichtbar), 0);
+    EXPECT_EQ(Fenster_Wert(1, Fenster_RAM, Feld::Sichtbar), -1);
+}
+
 TEST_F(Fenster_Welt, places_beyond_16_bits_end_at_the_limit)
 {
     Fenster.Innen = {0, 0, 40000, 60000};
@@ -359,6 +384,40 @@ TEST_F(Fenster_Welt, a_debugger_window_is_toggled_only_during_a_session)
     Fenster_Umschalten(Fenster_SFR);
     EXPECT_EQ(Fenster_Wert(1, Fenster_SFR, Feld::Sichtbar), -1);
     EXPECT_TRUE(Fenster.Zu(Fenster_SFR).Sichtbar);
+}
+
+TEST_F(Fenster_Welt, the_four_commands_toggle_the_windows_of_a_session)
+{
+    const std::pair<int, void (*)()> Befehle[] = {{Fenster_CONTROL, MNU_CONTROL_Click},
+                                                  {Fenster_RAM, MNU_RAM_Click},
+                                                  {Fenster_SFR, MNU_SFR_Click},
+                                                  {Fenster_EXRAM, MNU_EXRAM_Click}};
+    for (const auto& [Nummer, Click] : Befehle) {
+        Debugger_Aktiv = false;
+        Click();
+        EXPECT_EQ(Fenster_Wert(1, Nummer, Feld::Sichtbar), 0) << Nummer;
+        EXPECT_FALSE(Fenster.Zu(Nummer).Sichtbar);
+        Debugger_Aktiv = true;
+        Click();
+        for (const auto& [Andere, Egal] : Befehle)
+            EXPECT_EQ(Fenster.Zu(Andere).Sichtbar, Andere == Nummer) << Nummer << Andere;
+        EXPECT_TRUE(Eintrag(Haken[Nummer - 1].Name).Haken);
+        Click();
+        EXPECT_FALSE(Fenster.Zu(Nummer).Sichtbar);
+        EXPECT_FALSE(Eintrag(Haken[Nummer - 1].Name).Haken);
+    }
+}
+
+TEST_F(Fenster_Welt, a_panel_that_is_opened_shows_the_counters_as_they_are)
+{
+    Debugger_Aktiv = true;
+    Sim_PC         = 300;
+    MNU_CONTROL_Click();
+    EXPECT_EQ(Sim_Ansichten.L_Adr, "00300 / 0012Ch");
+    MNU_CONTROL_Click();
+    Sim_PC = 301;
+    MNU_CONTROL_Click();
+    EXPECT_EQ(Sim_Ansichten.L_Adr, "00301 / 0012Dh");
 }
 
 TEST_F(Fenster_Welt, a_closed_side_window_is_hidden_unticked_and_keeps_its_place)

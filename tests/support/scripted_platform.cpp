@@ -1,6 +1,8 @@
 // The scripted world: records every call over the wall and answers from a list.
 #include "support/scripted_platform.h"
 
+#include <array>
+
 #include "core/reset.h"
 #include "core/shared_state.h"
 
@@ -56,17 +58,24 @@ namespace {
 
 const char* Formular_Name(Formular Welches)
 {
-    switch (Welches) {
-    case Formular::Start:
-        return "Start";
-    case Formular::Erststart:
-        return "Erststart";
-    case Formular::Abfrage_Modus:
-        return "Abfrage_Modus";
-    case Formular::Optionen:
-        break;
-    }
-    return "Optionen";
+    constexpr std::array<const char*, Formular_Anzahl> Namen = {"Start",
+                                                                "Erststart",
+                                                                "Abfrage_Modus",
+                                                                "Optionen",
+                                                                "Suche",
+                                                                "HexSuche",
+                                                                "Bereich_Kopieren",
+                                                                "Bereich_setzen",
+                                                                "Bereich_entfernen",
+                                                                "Hilfe",
+                                                                "Brennmenue",
+                                                                "CheckIC",
+                                                                "Lockmenu",
+                                                                "Jumper",
+                                                                "Wahl_Eprommer_Version",
+                                                                "Wahl_Tessel2_Version",
+                                                                "Board"};
+    return Namen[static_cast<std::size_t>(Welches)];
 }
 
 } // namespace
@@ -99,6 +108,7 @@ void Skript_Fenster::Hintergrund(std::int32_t Farbe)
 void Skript_Fenster::Formular_Zeigen(Formular Welches)
 {
     Protokoll.push_back(std::string("Zeigen ") + Formular_Name(Welches));
+    Formulare[static_cast<std::size_t>(Welches)] = true;
     if (Bei_Formular)
         Bei_Formular(Welches);
 }
@@ -106,6 +116,7 @@ void Skript_Fenster::Formular_Zeigen(Formular Welches)
 void Skript_Fenster::Formular_Entladen(Formular Welches)
 {
     Protokoll.push_back(std::string("Entladen ") + Formular_Name(Welches));
+    Formulare[static_cast<std::size_t>(Welches)] = false;
 }
 
 void Skript_Fenster::Programm_Beenden()
@@ -146,6 +157,7 @@ Welt::Welt()
     Plattform.Dialog     = &Dialog;
     Plattform.Ablage     = &Ablage;
     Plattform.Umgebung   = &Umgebung;
+    Plattform.Druck      = &Druck;
 }
 
 Welt::~Welt() { Alles_Zuruecksetzen(); }

@@ -55,9 +55,11 @@ public:
     void   Pause(double Sekunden) override { Gewartet += Sekunden; }
     void   Titel(int Fenster, std::string_view Text) override;
     double Sekunden() override { return Uhrzeit += Je_Blick; }
+    void   Ton() override { ++Toene; }
 
     std::function<void(int)> Bei_Runde{}; // called at every turn with its number, from 1
     int                      Runden           = 0;
+    int                      Toene            = 0; // tones heard
     bool                     Zeiger_Wartet    = false;
     bool                     Fenster_Gesperrt = false;
     double                   Gewartet         = 0;
@@ -85,6 +87,10 @@ public:
     }
     void Formular_Zeigen(Formular Welches) override;
     void Formular_Entladen(Formular Welches) override;
+    bool Formular_Sichtbar(Formular Welches) const override
+    {
+        return Formulare[static_cast<std::size_t>(Welches)];
+    }
     void Start_Text(std::string_view Text) override { Start_Texte.emplace_back(Text); }
     void Programm_Beenden() override;
 
@@ -96,14 +102,15 @@ public:
     Eines_T&       Zu(int Fenster) { return Alle.at(static_cast<std::size_t>(Fenster)); }
     const Eines_T& Zu(int Fenster) const { return Alle.at(static_cast<std::size_t>(Fenster)); }
 
-    std::array<Eines_T, 13>       Alle{};
-    Lage_T                        Innen{0, 0, 800, 1280};
-    std::string                   Titel{};
-    std::vector<std::int32_t>     Hintergruende{};
-    std::vector<std::string>      Start_Texte{};
-    std::vector<std::string>      Protokoll{};
-    std::function<void(Formular)> Bei_Formular{}; // the user in front of a form that is shown
-    bool                          Beendet = false;
+    std::array<Eines_T, 13>           Alle{};
+    std::array<bool, Formular_Anzahl> Formulare{}; // which forms are open
+    Lage_T                            Innen{0, 0, 800, 1280};
+    std::string                       Titel{};
+    std::vector<std::int32_t>         Hintergruende{};
+    std::vector<std::string>          Start_Texte{};
+    std::vector<std::string>          Protokoll{};
+    std::function<void(Formular)>     Bei_Formular{}; // the user in front of a form that is shown
+    bool                              Beendet = false;
 };
 
 class Skript_Dialoge : public Dialoge {
@@ -142,6 +149,47 @@ public:
     bool                     Nimmt_An = true;
 };
 
+// A printer that keeps its pages as lines; "Schrift" notes each font that was set.
+class Skript_Drucker : public Drucker {
+public:
+    void Einrichten() override { ++Eingerichtet; }
+    bool Waehlen(Druckwahl_T& Wahl) override
+    {
+        Gefragt.push_back(Wahl);
+        Wahl.Markierung = Nur_Markierung;
+        return Nimmt_An;
+    }
+    bool Beginnen(std::string_view Text) override
+    {
+        Titel = Text;
+        Seiten.assign(1, {});
+        return Hat_Papier;
+    }
+    void Schrift(const Schrift_T& Neue) override { Schriften_Gesetzt.push_back(Neue); }
+    int  Zeilen_Je_Seite() const override { return Je_Seite; }
+    void Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben) override
+    {
+        Seiten.back().emplace_back(Text);
+        Alle_Farben.emplace_back(Farben.begin(), Farben.end());
+    }
+    void        Neue_Seite() override { Seiten.emplace_back(); }
+    void        Beenden() override { ++Beendet; }
+    std::string Datum() const override { return "20.11.2026"; }
+    std::string Uhrzeit() const override { return "17:05:09"; }
+
+    std::vector<std::vector<std::string>>  Seiten{};
+    std::vector<std::vector<Farbstelle_T>> Alle_Farben{}; // by line
+    std::vector<Schrift_T>                 Schriften_Gesetzt{};
+    std::vector<Druckwahl_T>               Gefragt{};
+    std::string                            Titel{};
+    int                                    Je_Seite       = 66;
+    int                                    Eingerichtet   = 0;
+    int                                    Beendet        = 0;
+    bool                                   Nimmt_An       = true;
+    bool                                   Hat_Papier     = true;
+    bool                                   Nur_Markierung = false;
+};
+
 // Base of the tests: every one starts from the reset state, in English, with the scripted world.
 class Welt : public ::testing::Test {
 protected:
@@ -160,6 +208,7 @@ protected:
     Skript_Dialoge    Dialog{};
     Skript_Ablage     Ablage{};
     Skript_Umgebung   Umgebung{};
+    Skript_Drucker    Druck{};
 };
 
 } // namespace varnholt::test

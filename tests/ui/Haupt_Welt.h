@@ -6,6 +6,7 @@
 #include "core/reset.h"
 #include "core/shared_state.h"
 #include "core/startup.h"
+#include "language/Nachschlage_Texte.h"
 #include "ui/MDI.h"
 #include "ui/Qt_Text.h"
 #include "ui/Quelltext_Feld.h"
@@ -105,9 +106,11 @@ protected:
         Alles_Zuruecksetzen();
         namespace fs = std::filesystem;
         Heim         = Ordner.path().toStdString() + "/";
-        for (const char* Name : {"Spec.ini", "mc", "samples", "beispiele"})
+        for (const char* Name : {"Spec.ini", "mc", "samples", "beispiele", "help.rtf"})
             fs::copy(
                 fs::path(VARNHOLT_DATA) / Name, fs::path(Heim) / Name, fs::copy_options::recursive);
+        Datei_Anlegen(Heim + "befehle.dok", Befehle_Dok());
+        Datei_Anlegen(Heim + "basic.dok", Basic_Dok());
         qputenv("VARNHOLT_HOME", Ordner.path().toLocal8Bit());
         qputenv("XDG_DATA_HOME", Ordner.filePath(QStringLiteral("xdg")).toLocal8Bit());
     }

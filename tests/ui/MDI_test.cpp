@@ -338,16 +338,5 @@ TEST_F(Haupt_Welt, notes_mark_the_document_as_changed)
     EXPECT_TRUE(Suchen("Edit")->windowTitle().startsWith(QStringLiteral("MC-Editor (*)")));
 }
 
-TEST_F(Haupt_Welt, what_is_still_to_come_is_there_and_disabled)
-{
-    Starten();
-    for (const char* Name :
-         {"MNU_PrintDialog", "MNU_IC_Lesen", "MNU_Bef", "MNU_deb_Vorbereitung"}) {
-        EXPECT_TRUE(Aktion(Name)->isVisible()) << Name;
-        EXPECT_FALSE(Aktion(Name)->isEnabled()) << Name;
-    }
-    EXPECT_FALSE(Aktion("Toolbar_Drucken")->isEnabled());
-}
-
 } // namespace
 } // namespace varnholt::test

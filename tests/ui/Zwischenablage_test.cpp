@@ -631,7 +631,7 @@ TEST_F(Zwischenablage_Test, every_shortcut_reaches_the_menu_from_the_hex_panes)
 }
 
 TEST_F(Zwischenablage_Test,
-       every_shortcut_but_those_of_the_clipboard_reaches_the_menu_from_the_notes)
+       every_shortcut_but_those_of_clipboard_and_look_reaches_the_menu_from_the_notes)
 {
     Neu();
     In_Notiz();
@@ -639,7 +639,8 @@ TEST_F(Zwischenablage_Test,
     for (const auto& [Kuerzel, Gehoert] : Kuerzel_Proben(Notiz())) {
         const bool Selbst =
             Kuerzel == "Ctrl+C" || Kuerzel == "Ctrl+X" || Kuerzel == "Ctrl+V" || Kuerzel == "Del";
-        EXPECT_TRUE(Gehoert || Selbst) << Kuerzel;
+        const bool Gestalt = Kuerzel == "Ctrl+B" || Kuerzel == "Ctrl+I"; // bold and italic
+        EXPECT_TRUE(Selbst || Gehoert != Gestalt) << Kuerzel;
     }
 }
 

@@ -1,0 +1,82 @@
+// The form `Hilfe`.
+#include "ui/Hilfe_Fenster.h"
+
+#include "editors/Hilfe.h"
+#include "ui/Bilder.h"
+#include "ui/Qt_Text.h"
+#include "ui/Reich_Qt.h"
+
+#include <QEvent>
+#include <QFile>
+#include <QKeyEvent>
+#include <QTextDocument>
+#include <QVBoxLayout>
+
+namespace varnholt {
+namespace {
+
+constexpr int Breite = 660; // of the form at its first showing, pixels
+constexpr int Hoehe  = 620;
+constexpr int Rand   = 18; // around the text
+
+// The German text belongs to the layout of the form.
+QByteArray Layout_Text()
+{
+    QFile Datei(QStringLiteral(":/varnholt/hilfe.rtf"));
+    return Datei.open(QIODevice::ReadOnly) ? Datei.readAll() : QByteArray();
+}
+
+} // namespace
+
+Hilfe_Fenster::Hilfe_Fenster(QWidget* Eltern) : QWidget(Eltern), Text(new QTextEdit(this))
+{
+    setObjectName(QStringLiteral("Hilfe"));
+    setWindowIcon(Programm_Bild());
+    Text->setObjectName(QStringLiteral("Text"));
+    Text->setReadOnly(true);
+    Text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    Text->setCursorWidth(0);
+    Text->setFrameShape(QFrame::NoFrame);
+    Text->document()->setDocumentMargin(Rand);
+    auto* Ganzes = new QVBoxLayout(this);
+    Ganzes->setContentsMargins(0, 0, 0, 0);
+    Ganzes->addWidget(Text);
+    resize(Breite, Hoehe);
+}
+
+void Hilfe_Fenster::Laden()
+{
+    const QByteArray Bytes = Layout_Text();
+    Hilfe_Load({Bytes.constData(), static_cast<std::size_t>(Bytes.size())});
+    setWindowTitle(Qt_Text(Hilfe_Form.Titel));
+    Text->setAccessibleName(windowTitle());
+    Text_Zeigen();
+}
+
+void Hilfe_Fenster::Text_Zeigen()
+{
+    const bool Dunkel = Text->palette().color(QPalette::Base).lightness() < 128;
+    Text->clear();
+    QTextCursor c(Text->document());
+    if (!Hilfe_Form.Text.Absaetze.empty())
+        c.setBlockFormat(Qt_Absatzformat(Hilfe_Form.Text.Absaetze.front().Bild));
+    Reich_Einfuegen(c, Hilfe_Form.Text, Dunkel);
+    Text->moveCursor(QTextCursor::Start);
+}
+
+void Hilfe_Fenster::changeEvent(QEvent* Ereignis)
+{
+    QWidget::changeEvent(Ereignis);
+    if (Ereignis->type() == QEvent::ApplicationPaletteChange)
+        Text_Zeigen();
+}
+
+void Hilfe_Fenster::keyPressEvent(QKeyEvent* Ereignis)
+{
+    if (Ereignis->key() == Qt::Key_Escape)
+        hide();
+    else
+        QWidget::keyPressEvent(Ereignis);
+}
+
+} // namespace varnholt
