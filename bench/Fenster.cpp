@@ -1,7 +1,6 @@
-// Benchmarks of the windows, offscreen: loading with colours, leaving a changed line, a snapshot for
-// Undo, search and replace, a hex page,
-// single steps with all views open, a program at full speed, the way from process start to the
-// splash.
+// Benchmarks of the windows, offscreen: loading with colours, leaving a changed line, a snapshot,
+// search and replace, a hex page, single steps with all views open, a program at full speed, the
+// way from process start to the splash.
 #include "core/commands.h"
 #include "core/shared_state.h"
 #include "core/undo.h"
@@ -110,8 +109,8 @@ void BM_Zeile_Verlassen(benchmark::State& s)
 }
 BENCHMARK(BM_Zeile_Verlassen)->Arg(20000)->Arg(50000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-// A snapshot of a source of a megabyte with its colours: what the user waits for at the first key of
-// a document and on leaving a changed line.
+// A snapshot of a source of a megabyte with its colours: what the user waits for at the first key
+// of a document and on leaving a changed line.
 void BM_Aufnahme(benchmark::State& s)
 {
     constexpr std::int64_t Megabyte = 1000000;

@@ -11,12 +11,12 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 namespace varnholt::bench {
 namespace {
 
 namespace fs = std::filesystem;
-using Befehl = std::vector<std::string>;
 
 constexpr int Laeufe        = 3;
 constexpr int Laeufe_Eigene = 5; // for each of the others, which take a hundred times as long

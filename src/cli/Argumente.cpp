@@ -75,7 +75,8 @@ std::optional<std::int32_t> Zahl_Von(std::string_view Text)
 {
     constexpr std::int64_t Hoechste = std::numeric_limits<std::int32_t>::max();
     const auto             Wert     = Lange_Zahl_Von(Text);
-    return Wert ? std::optional(static_cast<std::int32_t>(std::min(*Wert, Hoechste))) : std::nullopt;
+    return Wert ? std::optional(static_cast<std::int32_t>(std::min(*Wert, Hoechste)))
+                : std::nullopt;
 }
 
 Datei_Mit_Adresse Datei_Mit_Adresse_Von(const std::string& Text)

@@ -85,8 +85,7 @@ std::string Lage_Text(const Simulierter_Baustein* Baustein)
         return In_Sprache({"Das IC gibt eine falsche Signatur: es wird nicht erkannt.",
                            "The IC gives a wrong signature: it isn't recognised."});
     if (Board_Gestoert(Board_Stoerung::Nicht_Bereit))
-        return In_Sprache({"Die Bereit-Leitung bleibt aus: das IC lässt sich nicht brennen.",
-                           "The ready line never comes: the IC can't be programmed."});
+        return In_Sprache({"Die Bereit-Leitung bleibt aus.", "The ready line never comes."});
     return {};
 }
 

@@ -52,7 +52,7 @@ struct Strecke_T {
 #define BEFEHL(n)                                                                                  \
     Opcode_##n:                                                                                    \
         w.Ausfuehren(Nummer<n>{});                                                                 \
-        if ((n) == Stoppunkt_Opcode || w.Konto.Verbraucht() || !Liegt_Im_Code(w.PC)) [[unlikely]]    \
+        if ((n) == Stoppunkt_Opcode || w.Konto.Verbraucht() || !Liegt_Im_Code(w.PC)) [[unlikely]]  \
             goto Ende;                                                                             \
         Opcode = Opcode_An(w.PC);                                                                  \
         goto* Ziele[Opcode];

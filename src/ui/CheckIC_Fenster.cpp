@@ -13,7 +13,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 namespace varnholt {
@@ -29,7 +28,10 @@ CheckIC_Fenster::CheckIC_Fenster(Befehls_Weg Ausfuehren, QWidget* Eltern)
     Ergebnis = new QLabel;
     Ergebnis->setObjectName(QStringLiteral("Ergebnis"));
     Ergebnis->setWordWrap(true);
-    Ergebnis->setMinimumWidth(420);
+    Ergebnis->setAlignment(Qt::AlignTop);
+    // Room for the longest verdict.
+    Ergebnis->setMinimumSize(70 * fontMetrics().averageCharWidth(),
+                             2 * fontMetrics().lineSpacing());
     auto* Reihe = new QHBoxLayout;
     Reihe->addWidget(Label2);
     Reihe->addWidget(Zustand, 1);
@@ -79,11 +81,8 @@ void CheckIC_Fenster::Nachziehen()
     if (Tafel->toPlainText() != Neu)
         Tafel->setPlainText(Neu);
     const QString Stand = Label2->text() + Zustand->text() + Ergebnis->text() + Neu;
-    if (std::exchange(Gezeigt, Stand) == Stand)
-        return;
-    adjustSize(); // which knows nothing of the lines that a wrapped text takes
-    layout()->activate();
-    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+    if (std::exchange(Gezeigt, Stand) != Stand)
+        adjustSize();
 }
 
 } // namespace varnholt

@@ -142,8 +142,8 @@ TEST_F(Board_Ansicht_Test, each_fault_goes_on_and_off_alone_and_says_why)
         {Board_Stoerung::D0_Auf_0, "Eine Datenleitung hängt fest.", "A data line is stuck."},
         {Board_Stoerung::D7_Auf_1, "Eine Datenleitung hängt fest.", "A data line is stuck."},
         {Board_Stoerung::Nicht_Bereit,
-         "Die Bereit-Leitung bleibt aus: das IC lässt sich nicht brennen.",
-         "The ready line never comes: the IC can't be programmed."},
+         "Die Bereit-Leitung bleibt aus.",
+         "The ready line never comes."},
         {Board_Stoerung::Falsche_Kennung,
          "Das IC gibt eine falsche Signatur: es wird nicht erkannt.",
          "The IC gives a wrong signature: it isn't recognised."}};

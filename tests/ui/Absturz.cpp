@@ -38,6 +38,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -433,6 +434,7 @@ Kind_T Kind_Starten(const char* Programm, const std::string& Heim, std::uint64_t
         Durchgefallen("no pipe");
     const pid_t Nummer = ::fork();
     if (Nummer == 0) {
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL); // it has no end of its own
         ::dup2(Enden[1], STDOUT_FILENO);
         ::close(Enden[0]);
         ::close(Enden[1]);
@@ -522,7 +524,7 @@ int Pruefen(const char* Programm, int Anzahl, std::uint64_t Samen)
     Ordner_Fuellen(Muster);
     Zufall_T  Zufall(Samen);
     Zaehler_T Zahl;
-    for (int i = 0; i < Anzahl; ++i)
+    for (int i = 0; i < Anzahl; ++i) {
         if (const std::string Fehler = Einmal(Programm, Muster, Zufall, Zahl); !Fehler.empty()) {
             std::printf("kill %d, seed %llu, folder %s:\n%s\n",
                         i,
@@ -531,6 +533,11 @@ int Pruefen(const char* Programm, int Anzahl, std::uint64_t Samen)
                         Fehler.c_str());
             return 1;
         }
+        if (i % 50 == 49) {
+            std::printf("%d ...\n", i + 1);
+            std::fflush(stdout);
+        }
+    }
     std::printf("%d kills, %d of them ahead of the first key; %d starts asked for the autosave\n",
                 Anzahl,
                 Zahl.Beim_Start,

@@ -326,9 +326,6 @@ TEST_P(Geraete_Sprachen, the_version_question_is_readable)
     });
     Aktion("MNU_Hardware_Version")->trigger();
     EXPECT_EQ(Eprommer_Version, 0);
-    Version_Kommt("Wahl_Eprommer_Version", "Version_30");
-    Aktion("MNU_Hardware_Version")->trigger();
-    EXPECT_EQ(Eprommer_Version, 30);
 }
 
 INSTANTIATE_TEST_SUITE_P(Beide, Geraete_Sprachen, ::testing::Values("D", "E"));
@@ -706,25 +703,6 @@ TEST_F(Geraete_Test, a_stuck_line_shows_in_the_comparison)
     ASSERT_NE(Check, nullptr);
     EXPECT_EQ(Wert(Check, "Zustand_IC"), "Programmed till 8191(dec) / 1FFF(hex)");
     Druecken(Check, "Button_OK");
-}
-
-TEST_F(Geraete_Test, a_ready_line_that_never_comes_stops_the_programming)
-{
-    Starten_Mit_Bildern();
-    MC_Waehlen();
-    QDialog* Form = Board_Oeffnen();
-    ASSERT_NE(Form, nullptr);
-    Druecken(Form, "Stoerung_4");
-    EXPECT_EQ(Wert(Form, "Lage"), "The ready line never comes: the IC can't be programmed.");
-    Form->hide();
-    Antworten.Texte.clear();
-    Form_Kommt("Brennmenue", [this](QWidget* w) {
-        Antworten.Taste(QMessageBox::Ok);
-        Druecken(w, "Brennen");
-    });
-    Taste(Qt::Key_B, Qt::ControlModifier);
-    EXPECT_EQ(Antworten.Texte.size(), 1u);
-    EXPECT_EQ(Offene("CheckIC"), nullptr);
 }
 
 TEST_F(Geraete_Test, an_eprom_has_no_faults_of_a_microcontroller_and_is_erased_by_light)
