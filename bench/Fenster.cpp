@@ -1,6 +1,6 @@
 // Benchmarks of the windows, offscreen: loading with colours, leaving a changed line, a snapshot,
-// search and replace, a hex page, single steps with all views open, a program at full speed, the
-// way from process start to the splash.
+// printing, search and replace, a hex page, single steps with all views open, a program at full
+// speed, the way from process start to the splash.
 #include "core/commands.h"
 #include "core/shared_state.h"
 #include "core/undo.h"
@@ -8,12 +8,14 @@
 #include "editors/Hexedit.h"
 #include "editors/Suche.h"
 #include "files/Datei_Zustand.h"
+#include "files/Drucken.h"
 #include "simulator/Debug.h"
 #include "simulator/Sim_Ansichten.h"
 #include "simulator/Sitzung.h"
 #include "ui/F_SIM_RAM.h"
 #include "ui/Hexedit_Fenster.h"
 #include "ui/MDI.h"
+#include "ui/Qt_Drucker.h"
 #include "ui/Quelltext_Feld.h"
 
 #include <QApplication>
@@ -36,6 +38,7 @@
 #include <sstream>
 #include <string>
 #include <thread>
+#include <utility>
 
 namespace varnholt::bench {
 namespace {
@@ -122,6 +125,23 @@ void BM_Aufnahme(benchmark::State& s)
     Undo_Dateien_Loeschen();
 }
 BENCHMARK(BM_Aufnahme)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// A source of a megabyte with its colours into a PDF file.
+void BM_Drucken(benchmark::State& s)
+{
+    constexpr int Zeilen = 38000;
+    Laden(Zeilen);
+    Qt_Drucker     Drucker(Umgebung().Fenster);
+    Drucker* const Vorher = std::exchange(Plattform.Druck, &Drucker);
+    for (auto _ : s) {
+        Drucker.In_PDF(Umgebung().Ordner.filePath(QStringLiteral("quelle.pdf")));
+        Drucker.Beginnen("quelle.asm");
+        Text_Drucken();
+        Drucker.Beenden();
+    }
+    Plattform.Druck = Vorher;
+}
+BENCHMARK(BM_Drucken)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(2);
 
 // A text of one hit a line, and what replaces them all: the new text with its colours on the
 // screen, and the snapshot before it. Then the way back.

@@ -327,8 +327,8 @@ int Clock(const Geraete_Optionen& o)
     if (!Baustein_Gewaehlt())
         return Status_Misslungen;
     if (!Gewaehltes_Geraet().Name.starts_with("48T"))
-        return Falsche_Zeile({"Das IC " + o.Geraet + " hat keine Uhr",
-                              "the device " + o.Geraet + " has no clock"});
+        return Falsche_Zeile(
+            {"Das IC " + o.Geraet + " hat keine Uhr", "the device " + o.Geraet + " has no clock"});
     return Am_Port(o, Uhrzeit_Ausgeben);
 }
 
@@ -415,8 +415,8 @@ void Program_Anmelden(Kommandozeile& Zeile)
 void Erase_Anmelden(Kommandozeile& Zeile)
 {
     auto      o = std::make_shared<Geraete_Optionen>();
-    CLI::App* k = Zeile.Kommando(
-        "erase", "Erase a device and show its state", [o] { return Erase(*o); });
+    CLI::App* k =
+        Zeile.Kommando("erase", "Erase a device and show its state", [o] { return Erase(*o); });
     Geraet_Anmelden(k, *o);
 }
 
@@ -449,8 +449,8 @@ void Lock_Anmelden(Kommandozeile& Zeile)
 void Clock_Anmelden(Kommandozeile& Zeile)
 {
     auto      o = std::make_shared<Geraete_Optionen>();
-    CLI::App* k = Zeile.Kommando(
-        "clock", "Read date and time of a 48T device", [o] { return Clock(*o); });
+    CLI::App* k =
+        Zeile.Kommando("clock", "Read date and time of a 48T device", [o] { return Clock(*o); });
     Geraet_Anmelden(k, *o);
 }
 

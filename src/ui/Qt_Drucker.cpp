@@ -73,9 +73,15 @@ bool Qt_Drucker::PDF_Datei_Waehlen()
     Plattform.Dialog->Datei_Waehlen(Wahl);
     if (Wahl.Name.empty())
         return false;
-    Geraet().setOutputFormat(QPrinter::PdfFormat);
-    Geraet().setOutputFileName(Qt_Text(Wahl.Name));
+    In_PDF(Qt_Text(Wahl.Name));
     return true;
+}
+
+void Qt_Drucker::In_PDF(const QString& Name)
+{
+    Wohin = Druck_Dialog::Ziel::PDF;
+    Geraet().setOutputFormat(QPrinter::PdfFormat);
+    Geraet().setOutputFileName(Name);
 }
 
 bool Qt_Drucker::Waehlen(Druckwahl_T& Wahl)

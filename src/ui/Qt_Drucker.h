@@ -21,6 +21,8 @@ public:
     explicit Qt_Drucker(QWidget* Eltern);
     ~Qt_Drucker() override;
 
+    void In_PDF(const QString& Name); // the next document goes to that file
+
     void        Einrichten() override;
     bool        Waehlen(Druckwahl_T& Wahl) override;
     bool        Beginnen(std::string_view Titel) override;

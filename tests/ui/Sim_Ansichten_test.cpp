@@ -629,6 +629,7 @@ TEST_F(RAM_Test, InfoText_tells_what_the_current_row_is_in_both_languages)
     auto*      Feld = Gitter->findChild<QLabel*>(QStringLiteral("InfoText"));
     const auto Info = [&](const char* In, int Zeile) {
         Sprache = In;
+        Gitter->Nachziehen();
         Gehe_Zu(Zeile == 1 ? 2 : 1, 2);
         Gehe_Zu(Zeile, 2);
         return Feld->text().toStdString();
