@@ -1,6 +1,6 @@
 #!/bin/sh
 # Builds the developers' preset (sanitizers, warnings are errors) and runs every test, then each fuzz
-# target for a short time. FUZZ_SECONDS sets how long (default 10 for each target, 0 leaves them out).
+# target for a short time. FUZZ_SECONDS sets how long (default 5 for each target, 0 leaves them out).
 set -eu
 cd "$(dirname "$0")"
 . scripts/pakete.sh
@@ -13,6 +13,6 @@ cmake --preset dev
 cmake --build --preset dev
 ctest --preset dev -j "$(nproc)" --no-tests=error
 
-if [ "${FUZZ_SECONDS:=10}" -gt 0 ]; then
+if [ "${FUZZ_SECONDS:=5}" -gt 0 ]; then
     sh scripts/fuzz.sh "$FUZZ_SECONDS"
 fi
