@@ -131,13 +131,13 @@ void BM_Drucken(benchmark::State& s)
 {
     constexpr int Zeilen = 38000;
     Laden(Zeilen);
-    Qt_Drucker     Drucker(Umgebung().Fenster);
-    Drucker* const Vorher = std::exchange(Plattform.Druck, &Drucker);
+    Qt_Drucker     Papier(Umgebung().Fenster);
+    Drucker* const Vorher = std::exchange(Plattform.Druck, &Papier);
     for (auto _ : s) {
-        Drucker.In_PDF(Umgebung().Ordner.filePath(QStringLiteral("quelle.pdf")));
-        Drucker.Beginnen("quelle.asm");
+        Papier.In_PDF(Umgebung().Ordner.filePath(QStringLiteral("quelle.pdf")));
+        Papier.Beginnen("quelle.asm");
         Text_Drucken();
-        Drucker.Beenden();
+        Papier.Beenden();
     }
     Plattform.Druck = Vorher;
 }
