@@ -133,7 +133,7 @@ Simulation_Ergebnis Simulation_Laufen(std::int64_t Hoechstens, bool Zeilenweise,
     Debug_Vollgas  = !Zeilenweise;
     Debug_Stop     = false;
     if (Byte_An(Sim_PC) == Stoppunkt_Opcode)
-        ++Sim_PC;
+        Sim_PC = (Sim_PC + 1) % Code_Groesse;
     Simulation_Ergebnis e;
     e.Befehle =
         Zeilenweise || Spur != nullptr ? Aufrufen(Hoechstens, Spur) : Durchlaufen(Hoechstens);

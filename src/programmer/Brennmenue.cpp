@@ -328,7 +328,11 @@ void Abbrechen_Click() { B.Offen = false; }
 
 void Weiteres_Click() { B.Hoehe = B.Hoehe != Hoehe_Gross ? Hoehe_Gross : Hoehe_Klein; }
 
-bool Programm_Bereit() { return Porttreiber_Bereit() && Baustein_Gewaehlt() && Bild_Aktuell(); }
+bool Programm_Bereit()
+{
+    Abbruch = false; // of whatever was given up before
+    return Porttreiber_Bereit() && Baustein_Gewaehlt() && Bild_Aktuell();
+}
 
 void MNU_IC_Brennen_Click()
 {

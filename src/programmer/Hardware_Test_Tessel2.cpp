@@ -175,7 +175,7 @@ constexpr Mess_Test Tests[] = {
       "soldering and the connections from the counters to the socket."}},
     {{"4. TEST", "TEST 4"},
      Verbindungen,
-     nullptr,
+     [] { Daten_Senden(69); },
      {"TEST 4 OKAY", "TEST 4 OKAY"},
      {"Der Testlauf wurde abgeschlossen und es konnten keine Fehler festgestellt werden. Der "
       "Brenner ist "

@@ -259,6 +259,7 @@ void Baustein_Lesen()
 
 void MNU_IC_Lesen_Click()
 {
+    Abbruch = false; // of whatever was given up before: this read would end at once
     Sitzung_Beenden();
     if (!Porttreiber_Bereit() || !Baustein_Gewaehlt() || !Ungesichertes_Freigegeben())
         return;

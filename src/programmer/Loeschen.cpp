@@ -264,6 +264,7 @@ void Vor_Brennen_Löschen()
 
 void MNU_IC_Löschen_Click()
 {
+    Abbruch = false;
     Sitzung_Beenden();
     if (!Porttreiber_Bereit() || !Baustein_Gewaehlt() || Nur_Gemeldet() ||
         Loesch_Routine() == nullptr)

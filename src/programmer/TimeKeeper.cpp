@@ -89,6 +89,7 @@ Uhrzeit_T TimeKeeper_Lesen()
 
 void MNU_TimeKeeper_ReadTime_Click()
 {
+    Abbruch = false;
     if (!Porttreiber_Bereit() || !Baustein_Gewaehlt())
         return;
     const Text_Paar   Zeit = Uhrzeit_Text(TimeKeeper_Lesen());

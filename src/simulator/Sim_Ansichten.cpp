@@ -74,7 +74,9 @@ std::uint8_t Als_Byte(std::int32_t Wert)
 // Hexadecimal digits of an address field; an empty or bad one is 0.
 int Adresse_Lesen(Sicht Welche, std::string_view Text)
 {
-    const int Groesse = Welche == Sicht::EXRAM ? Sim_XRAM_Groesse : 256;
+    const int Groesse = Welche == Sicht::EXRAM ? Sim_XRAM_Groesse
+                        : Welche == Sicht::SFR ? Sim_RAM_Groesse
+                                               : 256;
     const int Wert    = Text.empty() ? 0 : static_cast<int>(Hex_zu_Wert(Text));
     const int Adresse = Wert < 0 || Wert >= Groesse ? 0 : Wert;
     return Welche == Sicht::RAM ? Indirekt_Index(Adresse) : Adresse;

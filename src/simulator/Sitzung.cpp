@@ -173,6 +173,27 @@ void Debug_Vorbereiten()
 
 // --- running ---
 
+namespace {
+
+// Leaves the stop point at the program address.
+void Stoppunkt_Verlassen()
+{
+    if (++Sim_PC >= Code_Groesse)
+        Sim_PC = 0;
+}
+
+// One line more, which shows where the program stands; a line without an end heeds the stop that
+// was asked for.
+void Lauf_Beschliessen()
+{
+    if (Sim_PC >= 0)
+        Zeile_Simulieren();
+    else
+        Stelle_Zeigen();
+}
+
+} // namespace
+
 void Debug_Start_Stop()
 {
     if (Debug_Laeuft || Sitzung.Schritt_Laeuft) {
@@ -187,19 +208,15 @@ void Debug_Start_Stop()
     if (!Menue("MNU_CONTROL").Haken)
         MNU_CONTROL_Click();
     if (Am_Stoppunkt())
-        ++Sim_PC;
+        Stoppunkt_Verlassen();
     while (Debugger_Aktiv && !Debug_Stop)
         Debug_Vollgas && !Debug_Verzoegerung ? Vollgas_Stueck() : Simulieren();
-    Debug_Stop   = false;
     Debug_Laeuft = false;
     Start_Beschriften();
     Sim_Alles_Zeigen();
-    if (Nummer != Sitzung.Nummer)
-        return; // another session began meanwhile, and stands at its first line
-    if (Sim_PC >= 0)
-        Zeile_Simulieren(); // one more, which shows where it stands
-    else
-        Stelle_Zeigen();
+    if (Nummer == Sitzung.Nummer) // else another session began, and stands at its first line
+        Lauf_Beschliessen();
+    Debug_Stop = false;
 }
 
 void Debug_Schritt()
@@ -208,7 +225,7 @@ void Debug_Schritt()
         return;
     Befehl_Beginnen();
     if (Am_Stoppunkt()) {
-        ++Sim_PC;
+        Stoppunkt_Verlassen();
         Zeile_Anzeigen();
     } else {
         Zeile_Simulieren();

@@ -183,7 +183,10 @@ QWidget* Brennmenue_Dialog::Unten_Bauen()
     }
     DAT00 = new QCheckBox;
     DAT00->setObjectName(QStringLiteral("DAT00"));
-    connect(DAT00, &QCheckBox::toggled, this, [](bool An) { Brennmenue.DAT00 = An; });
+    connect(DAT00, &QCheckBox::toggled, this, [this](bool An) {
+        Brennmenue.DAT00 = An;
+        Zeigen();
+    });
     Spalte->addWidget(DAT00);
     return Teil;
 }

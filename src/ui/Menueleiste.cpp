@@ -12,6 +12,9 @@
 #include <QMenuBar>
 #include <QToolBar>
 
+#include <algorithm>
+#include <iterator>
+
 namespace varnholt {
 namespace {
 
@@ -23,6 +26,21 @@ constexpr std::array Bild_Namen = {
     std::pair{"MNU_Optionen", "optionen"},
     std::pair{"MNU_IC_Typ", "chip"},
 };
+
+// Commands that a held key goes on with; all others answer to the first stroke only: a run that it
+// started would be stopped by the second.
+bool Wiederholt_Sich(std::string_view Name)
+{
+    constexpr std::string_view Namen[] = {"MNU_deb_up",
+                                          "MNU_deb_down",
+                                          "MNU_deb_Einzelschritt",
+                                          "MNU_Weitersuchen",
+                                          "MNU_Undo",
+                                          "MNU_Redo",
+                                          "MNU_Einfügen",
+                                          "MNU_Löschen"};
+    return std::find(std::begin(Namen), std::end(Namen), Name) != std::end(Namen);
+}
 
 // A caption as a menu shows it: an ampersand would underline the letter behind it.
 QString Menue_Text(const std::string& Titel)
@@ -75,6 +93,7 @@ void Menueleiste::Menues_Bauen()
         } else if (!e.Trennlinie()) {
             Aktion->setShortcut(
                 QKeySequence::fromString(Qt_Text(e.Kuerzel), QKeySequence::PortableText));
+            Aktion->setAutoRepeat(Wiederholt_Sich(e.Name));
             connect(Aktion, &QAction::triggered, this, [this, i] {
                 Ausfuehren([i] { Menue_Ausfuehren(i); }, Menue_Im_Lauf(i));
                 Eintrag_Zeigen(i); // Qt has toggled the tick by itself

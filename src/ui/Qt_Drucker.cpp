@@ -56,7 +56,7 @@ QPrinter& Qt_Drucker::Geraet()
     if (!Druck_Geraet) {
         Druck_Geraet = std::make_unique<QPrinter>(QPrinter::HighResolution);
         Druck_Geraet->setPageSize(QPageSize(QPageSize::A4));
-        Druck_Geraet->setPageMargins(QMarginsF(15, 12, 10, 12), QPageLayout::Millimeter);
+        Druck_Geraet->setPageMargins(QMarginsF(14, 12, 8, 12), QPageLayout::Millimeter);
     }
     return *Druck_Geraet;
 }
@@ -193,12 +193,27 @@ void Qt_Drucker::Seiten_Malen(QPrinter& Blatt) const
     for (const Seite_T& s : Seiten) {
         if (&s != &Seiten.front())
             Blatt.newPage();
-        double y = 0;
-        for (const Zeile_T& z : s) {
-            Zeile_Malen(Pinsel, z, y);
-            y += QFontMetricsF(z.Schrift, &Blatt).lineSpacing();
-        }
+        Seite_Malen(Pinsel, Blatt, s);
     }
+}
+
+// The pages were cut for the sheet of the setup; on a shorter one, chosen in the preview, they
+// shrink.
+void Qt_Drucker::Seite_Malen(QPainter& Pinsel, QPrinter& Blatt, const Seite_T& s) const
+{
+    double Gebraucht = 0;
+    for (const Zeile_T& z : s)
+        Gebraucht += QFontMetricsF(z.Schrift, &Blatt).lineSpacing();
+    const double Platz  = Blatt.pageRect(QPrinter::DevicePixel).height();
+    const double Faktor = Gebraucht > Platz ? Platz / Gebraucht : 1;
+    double       y      = 0;
+    Pinsel.save();
+    Pinsel.scale(Faktor, Faktor);
+    for (const Zeile_T& z : s) {
+        Zeile_Malen(Pinsel, z, y);
+        y += QFontMetricsF(z.Schrift, &Blatt).lineSpacing();
+    }
+    Pinsel.restore();
 }
 
 void Qt_Drucker::Vorschau_Zeigen()

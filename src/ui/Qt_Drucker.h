@@ -48,6 +48,7 @@ private:
     double    Zeilenhoehe(const QFont& Welche) const;
     void      Vorschau_Zeigen();
     void      Seiten_Malen(QPrinter& Wohin) const;
+    void      Seite_Malen(QPainter& Pinsel, QPrinter& Blatt, const Seite_T& s) const;
 
     QWidget*                  Fenster = nullptr;
     std::unique_ptr<QPrinter> Druck_Geraet{};
