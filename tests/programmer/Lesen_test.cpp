@@ -483,6 +483,15 @@ TEST_F(Lesen_Test, the_source_text_stays_when_the_hex_editor_is_not_shown)
     EXPECT_EQ(Edit.Text(), "NOP");
 }
 
+TEST_F(Lesen_Test, what_was_given_up_before_does_not_end_the_read)
+{
+    Einsetzen("27C64", 64);
+    Abbruch = true; // a refused change or a cancelled print leaves it so
+    MNU_IC_Lesen_Click();
+    EXPECT_TRUE(std::equal(Inhalt().begin(), Inhalt().end(), Hex_Daten.begin()));
+    EXPECT_NE(Antwort, Antwort_Abbrechen);
+}
+
 TEST_F(Lesen_Test, after_a_cancel_the_image_holds_FFh_and_what_was_read)
 {
     Einsetzen("27C64", 1001);
