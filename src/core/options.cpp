@@ -179,9 +179,7 @@ void Port_Art_Uebernehmen()
     if (Bisher == Port_Art || Bisher.empty())
         return;
     Porttreiber_OK = false;
-    Port_Einrichten();
-    Porttreiber_Laden();
-    Leitungen_Ruhen();
+    Port_Neu_Oeffnen();
 }
 
 // An address that can't be read goes to the driver as -1, and to the user as a notice.

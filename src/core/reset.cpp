@@ -23,6 +23,7 @@
 #include "editors/Sprungmarken.h"
 #include "editors/Suche.h"
 #include "files/Datei_Zustand.h"
+#include "files/Drucken.h"
 #include "language/Assembler_Zustand.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Geraete.h"
@@ -55,6 +56,7 @@ void Alles_Zuruecksetzen()
     HexSuche_Zuruecksetzen();
     Bereich_Zuruecksetzen();
     Dateien_Zuruecksetzen();
+    Druckauftrag = {};
     Maschine_Zuruecksetzen();
     Sitzung_Zuruecksetzen();
     Sim_Ansichten_Zuruecksetzen();

@@ -20,9 +20,9 @@
 #include "files/Datei_Zustand.h"
 #include "files/Dateizugriff.h"
 #include "programmer/Brenner_Zustand.h"
+#include "programmer/Geraetemenue.h"
 #include "programmer/Port_Einrichtung.h"
 #include "programmer/Special.h"
-#include "programmer/Geraetemenue.h"
 #include "programmer/Specifications.h"
 
 #include <algorithm>
@@ -254,9 +254,7 @@ void Geraete_Einlesen()
     IC_Titel_Zeigen();
     if (!Bekannt)
         return;
-    const Geraet_T& Geraet         = Geraete_Tabelle[static_cast<std::size_t>(IC_Nummer)];
-    Menue("MNU_IC_Löschen").Aktiv  = Loeschen_Moeglich(Geraet);
-    Menue("MNU_IC_LockBits").Aktiv = Sperren_Moeglich(Geraet);
+    IC_Befehle_Schalten();
 }
 
 // The image is empty until the first load or New fills it.

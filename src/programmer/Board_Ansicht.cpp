@@ -1,5 +1,6 @@
 // Looking at the simulated board, and handling it.
 #include "programmer/Board_Ansicht.h"
+#include "programmer/Baustein.h"
 
 #include "core/checksum.h"
 #include "core/commands.h"
@@ -19,8 +20,6 @@
 namespace varnholt {
 namespace {
 
-constexpr int Board_Eprommer = 1;
-constexpr int Board_Tessel2  = 3;
 constexpr int Gezeigte_Bytes = 16;
 
 Simuliertes_Board* Das_Board()
@@ -65,9 +64,11 @@ std::string Bytes_Text(const std::vector<std::uint8_t>& Inhalt)
 std::string Board_Name()
 {
     const int Board = IC_Nummer < 0
-                          ? Board_Eprommer
+                          ? Board_Nr_Eprommer
                           : Geraete_Tabelle[static_cast<std::size_t>(IC_Nummer)].Programmer;
-    return Board == Board_Eprommer ? "Eprommer" : Board == Board_Tessel2 ? "Tessel2" : "Tessel1";
+    return Board == Board_Nr_Eprommer  ? "Eprommer"
+           : Board == Board_Nr_Tessel2 ? "Tessel2"
+                                       : "Tessel1";
 }
 
 std::string Lage_Text(const Simulierter_Baustein* Baustein)
@@ -170,9 +171,7 @@ void Board_Neuer_Baustein()
 {
     if (Das_Board() == nullptr)
         return;
-    Port_Einrichten();
-    Porttreiber_Laden();
-    Leitungen_Ruhen();
+    Port_Neu_Oeffnen();
 }
 
 void Board_UV_Loeschen()

@@ -1,5 +1,6 @@
 // The menu step of the device database, and what the form `Jumper` shows.
 #include "programmer/Geraetemenue.h"
+#include "programmer/Baustein.h"
 
 #include "core/commands.h"
 #include "core/menu.h"
@@ -14,11 +15,6 @@
 
 namespace varnholt {
 namespace {
-
-constexpr int Board_Eprommer = 1;
-constexpr int Board_Tessel2  = 3;
-
-const Geraet_T& Gewaehltes() { return Geraete_Tabelle[static_cast<std::size_t>(IC_Nummer)]; }
 
 constexpr Versions_Wahl Eprommer_Wahl{
     {"Welche Version des Quelmark Eprommers nutzen Sie? (Die Versionsnummer können Sie auf der "
@@ -41,19 +37,11 @@ constexpr Versions_Wahl Tessel2_Wahl{
       {"Version 1.2", "Version 1.2"}}},
     {10, 11, 12}};
 
-// The entries that the type of the device enables.
-void Befehle_Schalten()
-{
-    const bool Gewaehlt            = IC_Nummer >= 0;
-    Menue("MNU_IC_Löschen").Aktiv  = Gewaehlt && Loeschen_Moeglich(Gewaehltes());
-    Menue("MNU_IC_LockBits").Aktiv = Gewaehlt && Sperren_Moeglich(Gewaehltes());
-}
-
 void Auswahl_Abnehmen()
 {
     Geraetemenue.Haken = -1;
     IC_Typ_Löschen();
-    Befehle_Schalten();
+    IC_Befehle_Schalten();
 }
 
 // The simulated board is that of the device, with a part of its kind in the socket.
@@ -61,13 +49,11 @@ void Simuliertes_Board_Wechseln()
 {
     if (Port_Art != Art_Simuliert)
         return;
-    Port_Einrichten();
-    Porttreiber_Laden();
-    Leitungen_Ruhen();
+    Port_Neu_Oeffnen();
 }
 
 // The check needs the version of this board; without an answer nothing is chosen.
-bool Version_Bekannt(int Board) { return Board != Board_Tessel2 || Tessel2_Version_Erfragen(); }
+bool Version_Bekannt(int Board) { return Board != Board_Nr_Tessel2 || Tessel2_Version_Erfragen(); }
 
 // The jumpers follow the version of the board, and that of the newest where it stays unknown.
 void Jumper_Zeigen()
@@ -82,6 +68,13 @@ void Geraetemenue_Zuruecksetzen()
 {
     Geraetemenue = {};
     Jumper       = {};
+}
+
+void IC_Befehle_Schalten()
+{
+    const bool Gewaehlt            = IC_Nummer >= 0;
+    Menue("MNU_IC_Löschen").Aktiv  = Gewaehlt && Loeschen_Moeglich(Gewaehltes_Geraet());
+    Menue("MNU_IC_LockBits").Aktiv = Gewaehlt && Sperren_Moeglich(Gewaehltes_Geraet());
 }
 
 const Versions_Wahl& Wahl_Eprommer_Version() { return Eprommer_Wahl; }
@@ -135,9 +128,9 @@ void MNU_IC_Typ_Click(int Gruppe, int Platz)
         return Auswahl_Abnehmen();
     Geraetemenue.Haken = Nummer;
     IC_Titel_Zeigen();
-    Befehle_Schalten();
+    IC_Befehle_Schalten();
     Simuliertes_Board_Wechseln();
-    if (Board == Board_Eprommer)
+    if (Board == Board_Nr_Eprommer)
         Jumper_Zeigen();
 }
 
@@ -187,8 +180,8 @@ void Jumper_Anzeige()
             Test_Stellungen[static_cast<std::size_t>(IC_Nummer - Erster_Test_Baustein)];
     } else {
         Jumper.Titel += IC_Menue_Name();
-        Jumper.Stellung = Gewaehltes().E_Jumper;
-        if (Gewaehltes().P_Typ == "27C080")
+        Jumper.Stellung = Gewaehltes_Geraet().E_Jumper;
+        if (Gewaehltes_Geraet().P_Typ == "27C080")
             Jumper.Hinweis = In_Sprache(Hinweis_27C080());
     }
     ++Jumper.Stand;

@@ -35,6 +35,9 @@ void Geraetemenue_Zuruecksetzen();
 // reads: Geraete_Tabelle, hardware versions   sets: IC_Nummer, Abbruch, menu, Jumper
 void MNU_IC_Typ_Click(int Gruppe, int Platz);
 
+// The entries of the menu that the type of the selected device enables.   sets: menu
+void IC_Befehle_Schalten();
+
 // Fills the form for the selected device, or for a set of the hardware tests, and shows it.
 // reads: IC_Nummer, Eprommer_Version   sets: Jumper
 void Jumper_Anzeige();

@@ -6,6 +6,7 @@
 #include "core/messages.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
+#include "programmer/Baustein.h"
 #include "programmer/Specifications.h"
 
 #include <algorithm>
@@ -14,8 +15,6 @@
 
 namespace varnholt {
 namespace {
-
-constexpr int Board_Tessel2 = 3;
 
 // Erase types, by their beginning, that the erase command serves; 29C gets its notice there.
 constexpr std::array<std::string_view, 5> Loeschbare_Typen = {"89", "28F", "29C", "28C", "27SF"};
@@ -92,7 +91,7 @@ void IC_Waehlen(int Nummer)
     if (!Abbruch) {
         IC_Nummer              = Nummer;
         const Geraet_T& Geraet = Geraete_Tabelle[static_cast<std::size_t>(Nummer)];
-        Abbruch                = Geraet.Programmer == Board_Tessel2 && !Tessel2_Geeignet(Geraet);
+        Abbruch                = Geraet.Programmer == Board_Nr_Tessel2 && !Tessel2_Geeignet(Geraet);
     }
     if (Abbruch)
         IC_Typ_Löschen();

@@ -29,14 +29,6 @@ private:
     int Vorher;
 };
 
-void Zaehler_Ruecksetzen()
-{
-    Steuerung_Senden(9);
-    Plattform.Port->Sleep(1);
-    Steuerung_Senden(11);
-    Plattform.Port->Sleep(1);
-}
-
 std::uint8_t Byte_Durchschieben(std::uint8_t Wert)
 {
     Byte_Laden(Wert);
@@ -76,10 +68,18 @@ std::string Datei_Text(const Test1_Ergebnis& e)
 
 } // namespace
 
+void Test_Zaehler_Ruecksetzen()
+{
+    Steuerung_Senden(9);
+    Plattform.Port->Sleep(1);
+    Steuerung_Senden(11);
+    Plattform.Port->Sleep(1);
+}
+
 Test1_Ergebnis Test1_Durchfuehren_Mit(std::uint8_t (*Durchschieben)(std::uint8_t))
 {
     Test1_Ergebnis Ergebnis;
-    Zaehler_Ruecksetzen();
+    Test_Zaehler_Ruecksetzen();
     Adj_512 = Adj_257 = 0;
     for (int Wert = 0; Wert < 256; ++Wert)
         Wert_Pruefen(Ergebnis, static_cast<std::uint8_t>(Wert), Durchschieben);

@@ -19,6 +19,9 @@ struct Test1_Ergebnis {
     std::string        Werte{};      // a line "SOLL:" wanted " IST: " read for each wrong value
 };
 
+// The reset of the address counters by itself, as the tests want it: no data byte goes out.
+void Test_Zaehler_Ruecksetzen();
+
 // Runs the 256 values through a board, whose way of shifting is given; shows nothing.
 // reads: the device's settling time   sets: Adj_512, Adj_257
 Test1_Ergebnis Test1_Durchfuehren_Mit(std::uint8_t (*Durchschieben)(std::uint8_t));

@@ -6,27 +6,13 @@
 namespace varnholt {
 namespace {
 
-void Daten(std::initializer_list<int> Werte)
-{
-    for (const int w : Werte)
-        Daten_Senden(w);
-}
-
-void Zaehler_Null()
-{
-    Steuerung_Senden(9);
-    Plattform.Port->Sleep(1);
-    Steuerung_Senden(11);
-    Plattform.Port->Sleep(1);
-}
-
 // Eight alternating bits into the 74HC595, Erstes being the one that goes in first, each with the
 // strobe that puts what is in it on the outputs.
 void Muster_Schieben(int Erstes)
 {
     int b = Erstes;
     for (int i = 0; i < 8; ++i) {
-        Daten({91 + b, 123 + b, 27, 91, 27});
+        Daten_Senden({91 + b, 123 + b, 27, 91, 27});
         b ^= 128;
     }
 }
@@ -34,9 +20,9 @@ void Muster_Schieben(int Erstes)
 void Zaehler_Hoch()
 {
     constexpr int Schritte = 65535; // all 16 outputs of the counters are high behind them
-    Zaehler_Null();
+    Test_Zaehler_Ruecksetzen();
     for (int i = 0; i < Schritte; ++i)
-        Daten({90, 94, 90});
+        Daten_Senden({90, 94, 90});
 }
 
 void Verbindungen_Hoch()
@@ -106,7 +92,7 @@ constexpr Mess_Schritt Zaehler[] = {
       "at all "
       "of these pins about 5 volt?"},
      {}},
-    {Zaehler_Null,
+    {Test_Zaehler_Ruecksetzen,
      {"Bitte messen Sie ERNEUT die Spannung an den Pins 3 bis 12 und 25 bis 29 der Brennfassung. "
       "Alle "
       "Spannungen sollten nun ca. 0 Volt betragen. Ist dieses der Fall?",
@@ -139,7 +125,7 @@ constexpr Mess_Test Tests[] = {
     {{"2. TEST", "TEST 2"},
      Spannungen,
      [] {
-         Daten({90, 91});
+         Daten_Senden({90, 91});
      },
      {"TEST 2 OKAY!", "TEST 2 OKAY!"},
      {"Die Brennspannung wird korrekt eingestellt, somit arbeiten auch die Transistoren und Dioden "

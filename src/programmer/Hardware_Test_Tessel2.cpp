@@ -9,12 +9,6 @@
 namespace varnholt {
 namespace {
 
-void Daten(std::initializer_list<int> Werte)
-{
-    for (const int w : Werte)
-        Daten_Senden(w);
-}
-
 // The standing bytes of the chosen part: two of them want a 0 on D0.
 int Ruhe_Wert()
 {
@@ -28,8 +22,8 @@ std::uint8_t Byte_Durchschieben(std::uint8_t Wert)
     const int  s    = Ruhe_Wert();
     const auto Bits = Bits_Von(Wert);
     for (std::size_t i = Bits.size(); i-- > 0;)
-        Daten({85 + s + Bits[i], 117 + s + Bits[i]});
-    Daten({21, 85, 21});
+        Daten_Senden({85 + s + Bits[i], 117 + s + Bits[i]});
+    Daten_Senden({21, 85, 21});
     Warte_Mikrosekunden(2 * Lese_Zeit());
     const int Gerade = Tessel2_Gerade_Bits(Status_Lesen());
     Daten_Senden(128 + 21);
@@ -43,7 +37,7 @@ void Muster_Schieben(int Erstes)
 {
     int b = Erstes;
     for (int i = 0; i < 8; ++i) {
-        Daten({85 + b, 117 + b, 21, 85, 21});
+        Daten_Senden({85 + b, 117 + b, 21, 85, 21});
         b ^= 128;
     }
 }
@@ -55,7 +49,7 @@ void Takte_Vorbereiten()
     Plattform.Port->Sleep(1);
     Daten_Senden(65);
     Plattform.Port->Sleep(1);
-    Daten({73, 65});
+    Daten_Senden({73, 65});
 }
 
 void Ausgaenge_Hoch()
@@ -63,7 +57,7 @@ void Ausgaenge_Hoch()
     constexpr int Takte = 65535; // all 16 outputs are high behind them
     Takte_Vorbereiten();
     for (int i = 0; i < Takte; ++i)
-        Daten({67, 65});
+        Daten_Senden({67, 65});
 }
 
 #define RAT_KABEL_D                                                                                  \

@@ -8,6 +8,7 @@
 #include "programmer/Port_direkt.h"
 #include "programmer/Port_ppdev.h"
 #include "programmer/Simulierte_Boards.h"
+#include "programmer/Special.h"
 
 #include <fmt/format.h>
 
@@ -81,6 +82,13 @@ void Port_Einrichten()
     // The old driver goes after the new one is in place: it may hold the port that others look at.
     const auto Bisher = std::exchange(Port_Einrichtung.Treiber, Treiber_Fuer(Port_Art));
     Plattform.Port    = Port_Einrichtung.Treiber.get();
+}
+
+void Port_Neu_Oeffnen()
+{
+    Port_Einrichten();
+    Porttreiber_Laden();
+    Leitungen_Ruhen();
 }
 
 void Leitungen_Ruhen()

@@ -31,6 +31,9 @@ inline struct Port_Einrichtung_T {
 // "sim". reads: Port_Art, IC_Nummer   sets: Port_Art, Plattform.Port
 void Port_Einrichten();
 
+// The driver that Port_Art and the device name, started, with its lines at rest.
+void Port_Neu_Oeffnen();
+
 // Brings the lines of the programmer to rest when the driver is open.   reads: Porttreiber_OK
 void Leitungen_Ruhen();
 

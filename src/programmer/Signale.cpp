@@ -73,6 +73,12 @@ void Daten_Senden(int Wert)
     Plattform.Port->KS_outpb(Port_Basis, static_cast<std::uint8_t>(Wert));
 }
 
+void Daten_Senden(std::initializer_list<int> Werte)
+{
+    for (const int w : Werte)
+        Daten_Senden(w);
+}
+
 void Steuerung_Senden(int Wert)
 {
     Plattform.Port->KS_outpb(Port_Basis + 2, static_cast<std::uint8_t>(Wert));

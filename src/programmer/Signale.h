@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <initializer_list>
 #include <string_view>
 
 namespace varnholt {
@@ -70,6 +71,7 @@ constexpr int Pruef_Bits(std::string_view R_Typ, std::string_view P_Typ)
 // ---- Steps: one or a few writes each; a value beyond a byte is taken modulo 256 ----
 
 void         Daten_Senden(int Wert);
+void         Daten_Senden(std::initializer_list<int> Werte);
 void         Steuerung_Senden(int Wert);
 std::uint8_t Status_Lesen();
 
@@ -93,8 +95,8 @@ std::int64_t Lese_Zeit();
 void Hoch_Bits_Setzen();
 // Shifts Wert into the 74HC595 and puts it on the bus.   sets: Schiebe_Bits
 void Byte_Laden(std::uint8_t Wert);
-// The same for the EEPROM and flash routines: shifts with the byte Basis, and leaves Wert on the bus
-// with the strobe that follows from it (90: 26, 90, 26).   sets: Schiebe_Bits
+// The same for the EEPROM and flash routines: shifts with the byte Basis, and leaves Wert on the
+// bus with the strobe that follows from it (90: 26, 90, 26).   sets: Schiebe_Bits
 void Byte_Schieben(std::uint8_t Wert, int Basis);
 // Reads the bus after a load: true when it carries Wert.
 [[nodiscard]] bool Byte_Auf_Bus(std::uint8_t Wert);

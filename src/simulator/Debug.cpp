@@ -19,8 +19,6 @@ std::uint8_t Byte_Zusammensetzen()
     return static_cast<std::uint8_t>(Wert);
 }
 
-std::uint8_t& RAM_An(int Index) { return Sim_RAM[static_cast<std::size_t>(Index)]; }
-
 } // namespace
 
 void Maschine_Zuruecksetzen() { Maschine = {}; }

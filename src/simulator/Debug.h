@@ -52,6 +52,9 @@ inline constinit auto& Sim_Prio   = Maschine.Sim_Prio;
 inline constinit auto& Sim_Bank   = Maschine.Sim_Bank;
 inline constinit auto& Sim_Zeile  = Maschine.Sim_Zeile;
 
+// The byte of Sim_RAM at an index of 0 to 383.
+inline std::uint8_t& RAM_An(int Index) { return Sim_RAM[static_cast<std::size_t>(Index)]; }
+
 // The machine as at program start.
 void Maschine_Zuruecksetzen();
 

@@ -12,8 +12,7 @@
 namespace varnholt {
 namespace {
 
-std::uint8_t& RAM_An(int Index) { return Sim_RAM[static_cast<std::size_t>(Index)]; }
-bool          RAM_Bit(int Index, int Nummer) { return Bit_Von(RAM_An(Index), Nummer) != 0; }
+bool RAM_Bit(int Index, int Nummer) { return Bit_Von(RAM_An(Index), Nummer) != 0; }
 void RAM_Speichern(int Index, int Wert) { RAM_An(Index) = static_cast<std::uint8_t>(Wert); }
 
 void RAM_Bit_Setzen(int Index, int Nummer)

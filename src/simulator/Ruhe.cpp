@@ -33,8 +33,6 @@ namespace {
 
 constexpr std::int32_t Lange = 1 << 30;
 
-int RAM_An(int Index) { return Sim_RAM[static_cast<std::size_t>(Index)]; }
-
 // Whether timer 0 or 1 counts instruction bytes now.
 bool Zaehlt_Bytes(int i)
 {

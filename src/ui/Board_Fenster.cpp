@@ -21,8 +21,6 @@
 namespace varnholt {
 namespace {
 
-QString Text(const Text_Paar& Paar) { return Qt_Text(In_Sprache(Paar)); }
-
 const std::array<Text_Paar, Board_Stoerungen> Stoerung_Texte = {
     {{"Kein Strom", "No power"},
      {"IC entnommen", "IC taken out"},
@@ -185,8 +183,8 @@ void Board_Fenster::showEvent(QShowEvent* Ereignis)
 void Board_Fenster::Zeigen()
 {
     const Board_Bild b = Board_Ansehen();
-    setWindowTitle(Text({"Simuliertes Board", "Simulated board"}));
-    Sockel->setTitle(Text({"Im Sockel", "In the socket"}));
+    setWindowTitle(Qt_In_Sprache({"Simuliertes Board", "Simulated board"}));
+    Sockel->setTitle(Qt_In_Sprache({"Im Sockel", "In the socket"}));
     const std::array<Text_Paar, 5>   Titel  = {{{"Board:", "Board:"},
                                                 {"IC:", "IC:"},
                                                 {"Erste Bytes:", "First bytes:"},
@@ -195,29 +193,30 @@ void Board_Fenster::Zeigen()
     const std::array<std::string, 5> Inhalt = {
         b.Board, b.Baustein, b.Bytes, b.Benutzt, b.Pruefsumme};
     for (std::size_t i = 0; i < Werte.size(); ++i) {
-        Namen[i]->setText(Text(Titel[i]));
+        Namen[i]->setText(Qt_In_Sprache(Titel[i]));
         Werte[i]->setText(Inhalt[i].empty() ? QStringLiteral("-") : Qt_Text(Inhalt[i]));
     }
-    Lage->setText(b.Simuliert
-                      ? Qt_Text(b.Lage)
-                      : Text({"Der eingestellte Port ist nicht der simulierte (siehe Optionen).",
-                              "The port in use isn't the simulated one (see the options)."}));
+    Lage->setText(
+        b.Simuliert
+            ? Qt_Text(b.Lage)
+            : Qt_In_Sprache({"Der eingestellte Port ist nicht der simulierte (siehe Optionen).",
+                             "The port in use isn't the simulated one (see the options)."}));
     Lage->setVisible(!Lage->text().isEmpty());
-    Neuer->setText(Text({"Neues IC einsetzen", "Put a new IC in"}));
-    UV->setText(Text({"Mit UV-Licht löschen", "Erase with UV light"}));
-    Laden_Knopf->setText(Text({"Inhalt laden...", "Load contents..."}));
-    Sichern->setText(Text({"Inhalt sichern...", "Save contents..."}));
-    Tote->setText(Text({"Zelle (hex) defekt machen", "Make that cell (hex) fail"}));
-    Tote_Adresse->setPlaceholderText(Text({"Adresse", "Address"}));
-    Stoerungen->setTitle(Text({"Störungen", "Faults"}));
-    Zu->setText(Text({"Schließen", "Close"}));
+    Neuer->setText(Qt_In_Sprache({"Neues IC einsetzen", "Put a new IC in"}));
+    UV->setText(Qt_In_Sprache({"Mit UV-Licht löschen", "Erase with UV light"}));
+    Laden_Knopf->setText(Qt_In_Sprache({"Inhalt laden...", "Load contents..."}));
+    Sichern->setText(Qt_In_Sprache({"Inhalt sichern...", "Save contents..."}));
+    Tote->setText(Qt_In_Sprache({"Zelle (hex) defekt machen", "Make that cell (hex) fail"}));
+    Tote_Adresse->setPlaceholderText(Qt_In_Sprache({"Adresse", "Address"}));
+    Stoerungen->setTitle(Qt_In_Sprache({"Störungen", "Faults"}));
+    Zu->setText(Qt_In_Sprache({"Schließen", "Close"}));
     Neuer->setEnabled(b.Simuliert);
     UV->setEnabled(b.Hat_Baustein && b.UV_Loeschbar);
     for (QPushButton* k : {Laden_Knopf, Sichern, Tote})
         k->setEnabled(b.Hat_Baustein);
     for (std::size_t i = 0; i < Haken.size(); ++i) {
         const QSignalBlocker Still(Haken[i]);
-        Haken[i]->setText(Text(Stoerung_Texte[i]));
+        Haken[i]->setText(Qt_In_Sprache(Stoerung_Texte[i]));
         Haken[i]->setChecked(Board_Gestoert(static_cast<Board_Stoerung>(i)));
         Haken[i]->setEnabled(b.Simuliert && (b.Ist_MC || i < Erste_MC_Stoerung));
     }

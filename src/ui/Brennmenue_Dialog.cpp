@@ -26,8 +26,6 @@
 namespace varnholt {
 namespace {
 
-QString Text(const Text_Paar& Paar) { return Qt_Text(In_Sprache(Paar)); }
-
 constexpr int Feld_Breite = 96; // device-independent pixels
 
 } // namespace
@@ -35,13 +33,13 @@ constexpr int Feld_Breite = 96; // device-independent pixels
 Brennmenue_Dialog::Brennmenue_Dialog(QWidget* Eltern) : QDialog(Eltern)
 {
     setObjectName(QStringLiteral("Brennmenue"));
-    setWindowTitle(Text({"Daten brennen", "Program data"}));
+    setWindowTitle(Qt_In_Sprache({"Daten brennen", "Program data"}));
     auto* Alles = new QVBoxLayout(this);
     Alles->setSizeConstraint(QLayout::SetFixedSize); // grows and shrinks with its lower part
     Alles->addWidget(Kopf_Bauen());
     Alles->addWidget(Felder_Bauen());
-    Loeschen = new QCheckBox(Text({"IC vorm programmieren löschen (Nur bei Flash/EEPROM).",
-                                   "Erase IC before programming (Only Flash/EEPROM)."}));
+    Loeschen = new QCheckBox(Qt_In_Sprache({"IC vorm programmieren löschen (Nur bei Flash/EEPROM).",
+                                            "Erase IC before programming (Only Flash/EEPROM)."}));
     Loeschen->setObjectName(QStringLiteral("Löschen"));
     connect(Loeschen, &QCheckBox::toggled, this, [this](bool An) {
         Brennmenue.Löschen = An;
@@ -111,13 +109,13 @@ QWidget* Brennmenue_Dialog::Felder_Bauen()
     auto*      Tafel  = new QWidget;
     auto*      Gitter = new QGridLayout(Tafel);
     const auto Reihe  = [&](int Zeile, const Text_Paar& Name, QWidget* Hex, QWidget* Dez) {
-        Gitter->addWidget(new QLabel(Text(Name)), Zeile, 0);
+        Gitter->addWidget(new QLabel(Qt_In_Sprache(Name)), Zeile, 0);
         Gitter->addWidget(Hex, Zeile, 1);
         Gitter->addWidget(Dez, Zeile, 2);
         return QList<QWidget*>{Hex, Dez};
     };
     const auto Kopf = [&](int Zeile, const Text_Paar& Titel, const QList<QWidget*>& Spalten) {
-        auto* k    = new Spalten_Kopf(Text(Titel), Spalten);
+        auto* k    = new Spalten_Kopf(Qt_In_Sprache(Titel), Spalten);
         QFont Fett = k->font();
         Fett.setBold(true);
         k->setFont(Fett);
@@ -173,7 +171,7 @@ QWidget* Brennmenue_Dialog::Unten_Bauen()
     constexpr Splitting   Wahl[3]  = {Splitting::Kein, Splitting::Gerade, Splitting::Ungerade};
     Spalte->setContentsMargins(0, 0, 0, 0);
     for (std::size_t i = 0; i < 3; ++i) {
-        Teilung[i] = new QRadioButton(Text(Texte[i]));
+        Teilung[i] = new QRadioButton(Qt_In_Sprache(Texte[i]));
         Teilung[i]->setObjectName(QLatin1String(Namen[i]));
         connect(Teilung[i], &QRadioButton::clicked, this, [this, w = Wahl[i]] {
             Splitting_Waehlen(w);
@@ -196,7 +194,7 @@ QWidget* Brennmenue_Dialog::Knoepfe_Bauen()
     auto*      Leiste = new QWidget;
     auto*      Reihe  = new QHBoxLayout(Leiste);
     const auto Knopf  = [&](const char* Name, const Text_Paar& Beschriftung, void (*Befehl)()) {
-        auto* k = new QPushButton(Text(Beschriftung));
+        auto* k = new QPushButton(Qt_In_Sprache(Beschriftung));
         k->setObjectName(QLatin1String(Name));
         k->setAutoDefault(false);
         connect(k, &QPushButton::clicked, this, [this, Befehl] { Ausfuehren(Befehl); });
@@ -287,7 +285,7 @@ void Brennmenue_Dialog::Zeigen()
     Teilung[2]->setChecked(b.O_Odd_Splitting);
     Brennen->setEnabled(b.Brennen_Aktiv);
     Unten->setVisible(b.Hoehe == Hoehe_Gross);
-    Vorschau->setText(Text(Vorschau_Text()));
+    Vorschau->setText(Qt_In_Sprache(Vorschau_Text()));
 }
 
 } // namespace varnholt

@@ -18,38 +18,38 @@ namespace {
 
 constexpr int Kopien_Hoechstens = 99;
 
-QString Text(const Text_Paar& Paar) { return Qt_Text(In_Sprache(Paar)); }
-
 } // namespace
 
 Druck_Dialog::Druck_Dialog(bool Markierung_Anbieten, QWidget* Eltern) : QDialog(Eltern)
 {
     setObjectName(QStringLiteral("Druck_Dialog"));
-    setWindowTitle(Text({"Drucken", "Print"}));
+    setWindowTitle(Qt_In_Sprache({"Drucken", "Print"}));
     Geraete = new QComboBox;
     Geraete->setObjectName(QStringLiteral("Geraete"));
     for (const QString& Name : QPrinterInfo::availablePrinterNames())
         Geraete->addItem(Name, Name);
-    Geraete->addItem(Text({"PDF-Datei", "PDF file"}), QString());
+    Geraete->addItem(Qt_In_Sprache({"PDF-Datei", "PDF file"}), QString());
     Geraete->setCurrentIndex(std::max(0, Geraete->findData(QPrinterInfo::defaultPrinterName())));
     Anzahl = new QSpinBox;
     Anzahl->setObjectName(QStringLiteral("Kopien"));
     Anzahl->setRange(1, Kopien_Hoechstens);
-    auto* Alles = new QRadioButton(Text({"&Alles", "&All"}));
+    auto* Alles = new QRadioButton(Qt_In_Sprache({"&Alles", "&All"}));
     Alles->setChecked(true);
-    Markierung = new QRadioButton(Text({"Nur die &Markierung", "&Selection only"}));
+    Markierung = new QRadioButton(Qt_In_Sprache({"Nur die &Markierung", "&Selection only"}));
     Markierung->setObjectName(QStringLiteral("Markierung"));
     Markierung->setEnabled(Markierung_Anbieten);
     auto* Felder = new QFormLayout;
-    Felder->addRow(Text({"&Drucker:", "&Printer:"}), Geraete);
-    Felder->addRow(Text({"&Kopien:", "&Copies:"}), Anzahl);
-    Felder->addRow(Text({"Umfang:", "Range:"}), Alles);
+    Felder->addRow(Qt_In_Sprache({"&Drucker:", "&Printer:"}), Geraete);
+    Felder->addRow(Qt_In_Sprache({"&Kopien:", "&Copies:"}), Anzahl);
+    Felder->addRow(Qt_In_Sprache({"Umfang:", "Range:"}), Alles);
     Felder->addRow(QString(), Markierung);
 
     auto* Knoepfe = new QDialogButtonBox;
-    auto* Drucken = Knoepfe->addButton(Text({"Drucken", "Print"}), QDialogButtonBox::AcceptRole);
-    auto* Sehen = Knoepfe->addButton(Text({"&Vorschau", "Pre&view"}), QDialogButtonBox::ActionRole);
-    Knoepfe->addButton(Text({"Abbrechen", "Cancel"}), QDialogButtonBox::RejectRole);
+    auto* Drucken =
+        Knoepfe->addButton(Qt_In_Sprache({"Drucken", "Print"}), QDialogButtonBox::AcceptRole);
+    auto* Sehen =
+        Knoepfe->addButton(Qt_In_Sprache({"&Vorschau", "Pre&view"}), QDialogButtonBox::ActionRole);
+    Knoepfe->addButton(Qt_In_Sprache({"Abbrechen", "Cancel"}), QDialogButtonBox::RejectRole);
     Drucken->setObjectName(QStringLiteral("Drucken"));
     Sehen->setObjectName(QStringLiteral("Vorschau"));
     Drucken->setDefault(true);

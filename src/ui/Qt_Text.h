@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/codepage.h"
+#include "core/messages.h"
 #include "core/platform.h"
 
 #include <QColor>
@@ -17,6 +18,7 @@ inline QString Qt_Text(std::string_view UTF8)
 {
     return QString::fromUtf8(UTF8.data(), static_cast<qsizetype>(UTF8.size()));
 }
+inline QString     Qt_In_Sprache(const Text_Paar& Paar) { return Qt_Text(In_Sprache(Paar)); }
 inline std::string Nach_Std(const QString& Text) { return Text.toStdString(); }
 
 // A message text: CR LF become line feeds.
