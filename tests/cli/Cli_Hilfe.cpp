@@ -31,14 +31,6 @@ namespace {
 
 } // namespace
 
-Cli::Cli()
-{
-    std::string Vorlage = (fs::temp_directory_path() / "varnholt-cli-XXXXXX").string();
-    Ordner              = mkdtemp(Vorlage.data());
-}
-
-Cli::~Cli() { fs::remove_all(Ordner); }
-
 Lauf_Ergebnis Cli::Laufen(const std::vector<std::string>& Argumente, const std::string& Eingabe)
 {
     std::vector<std::string> Zeile{VARNHOLT_CLI, "--home", Home};

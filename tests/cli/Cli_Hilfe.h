@@ -1,6 +1,8 @@
 // Runs varnholt-cli as a user does: as a process of its own, in a folder of its own.
 #pragma once
 
+#include "support/Arbeitsordner.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -17,9 +19,6 @@ struct Lauf_Ergebnis {
 
 class Cli : public ::testing::Test {
 protected:
-    Cli();
-    ~Cli() override;
-
     // Runs `varnholt-cli --home DATA Argumente...` in the test's folder.
     Lauf_Ergebnis Laufen(const std::vector<std::string>& Argumente,
                          const std::string&              Eingabe = {});
@@ -27,8 +26,9 @@ protected:
     std::string   Lesen(const std::string& Name) const;
     bool          Da(const std::string& Name) const;
 
-    std::filesystem::path Ordner{};
-    std::string           Home = VARNHOLT_DATA;
+    Arbeitsordner                Eigener{};
+    const std::filesystem::path& Ordner = Eigener.Pfad;
+    std::string                  Home   = VARNHOLT_DATA;
 };
 
 // Bytes 0 to n - 1 of a repeating pattern without FFh.

@@ -6,105 +6,11 @@
 #include "core/shared_state.h"
 #include "core/version.h"
 #include "programmer/Geraete.h"
+#include "support/Beschriftungen.h"
 #include "support/scripted_platform.h"
 
 namespace varnholt::test {
 namespace {
-
-struct Beschriftung {
-    std::string Name, D, E;
-};
-
-const std::vector<Beschriftung> Beschriftungen = {
-    {"MNU_Datei", "Datei", "File"},
-    {"MNU_Neu", "Neue Datei", "New"},
-    {"MNU_Load", "Öffnen", "Open"},
-    {"MNU_Load_Autosave", "Öffnen einer Autosave Datei", "Open Autosave File"},
-    {"MNU_Importdata", "Daten importieren", "Data import"},
-    {"MNU_Save", "Speichern", "Save"},
-    {"MNU_SaveAs", "Speichern unter", "Save As"},
-    {"MNU_vergleiche_hexdaten", "Vergleiche Hexdaten", "Compare Hexdata"},
-    {"MNU_PrintDialog", "Drucken", "Print"},
-    {"MNU_PrinterConfig", "Drucker einrichten", "Printer Setup"},
-    {"MNU_Ende", "Beenden", "Exit"},
-    {"MNU_Bearbeiten", "Bearbeiten", "Edit"},
-    {"MNU_Ausschneiden", "Markiertes Auschneiden", "Cut marked"},
-    {"MNU_Kopieren", "Markiertes Kopieren", "Copy marked"},
-    {"MNU_Einfügen", "Markiertes Einfügen", "Paste marked"},
-    {"MNU_Löschen", "Markiertes Löschen", "Delete marked"},
-    {"MNU_Ber_Kopieren", "Bereich Kopieren", "Copy area"},
-    {"MNU_Ber_setzen", "Bereich Setzen", "Set area"},
-    {"MNU_Ber_entfernen", "Bereich Entfernen", "Remove area"},
-    {"MNU_Adresse_direkt", "Adresse direkt anspringen", "Go to address"},
-    {"MNU_ErsteAdresse", "Springe zum ersten Byte <> FFh", "Go to the first byte <> FFh"},
-    {"MNU_LetzteAdresse", "Springe zum letzten Byte <> FFh", "Go to the last byte <> FFh"},
-    {"MNU_Debugger_Stoppunkt", "Debugger Stoppunkt setzen", "Insert Debugger Stop Point"},
-    {"MNU_Undo", "Rückgängig", "Undo"},
-    {"MNU_Redo", "Wiederholen", "Redo"},
-    {"MNU_Suche", "Suchen / Ersetzen", "Search / Replace"},
-    {"MNU_IC_Lesen", "IC Lesen", "Read IC"},
-    {"MNU_IC_Brennen", "IC Brennen", "Program IC"},
-    {"MNU_IC_Löschen", "IC Löschen", "Erase IC"},
-    {"MNU_IC_Prüfen", "IC Prüfen / Daten vergleichen", "Check IC / Compare data"},
-    {"MNU_IC_Typ", "IC wählen", "Choose IC"},
-    {"MNU_Tessel2_Hardware_Version",
-     "Tessel2 programmer Hardware Version",
-     "Tessel2 programmer Hardware Version"},
-    {"MNU_Ansicht", "Ansicht", "View"},
-    {"MNU_Bef", "MCS-51 Befehle", "MCS-51 instructions"},
-    {"MNU_Basic", "Basic Befehle", "Basic instructions"},
-    {"MNU_Not", "Notizen", "Notes"},
-    {"MNU_Spr", "Sprungmarken", "Jumpmarks"},
-    {"MNU_G_Einstellung", "Fenster Grundeinstellung", "Window standard apportionment"},
-    {"MNU_deb_Vorbereitung", "Daten vorbereiten", "Prepare debugger data"},
-    {"MNU_deb_Starten", "Starten", "Start execution"},
-    {"MNU_deb_Einzelschritt", "Einzelschritt ausführen", "Single step execution"},
-    {"MNU_deb_up", "Schritt nach oben (ohne auszuführen)", "Step upwards (without execution)"},
-    {"MNU_deb_down", "Schritt nach unten (ohne auszuführen)", "Step downwards (without execution)"},
-    {"MNU_deb_reset_adr", "Reset Programmadresse", "Reset program address"},
-    {"MNU_deb_reset", "Reset RAM/SFR/EXRAM", "Reset RAM/SFR/EXRAM"},
-    {"MNU_deb_beenden", "Debuggermodus beenden", "Quit debugger mode"},
-    {"MNU_jump_cursor", "Springe zum Cursor", "Jump to cursor"},
-    {"MNU_Optionen", "Optionen", "Options"},
-    {"MNU_Help", "Hilfe", "Help"},
-    {"MNU_Service", "Service", "Service"},
-    {"MNU_S_Quelmark", "Quelmark Homepage", "Quelmark homepage"},
-    {"MNU_S_Update", "Software Updates", "Software updates"},
-    {"MNU_S_Forum", "Diskussionsforum", "Discussion board"},
-    {"MNU_S_Mail", "E-Mail an Quelmark", "Email to Quelmark"},
-    {"MNU_S_Bücher", "Buch-Schnellsuche", "Book-Quickfinder"},
-    {"MNU_Deutsch", "Deutsch / German", "German / Deutsch"},
-    {"MNU_Englisch", "Englisch / English", "English / Englisch"},
-    {"MNU_IC", "Brenner", "Programmer"},
-};
-
-struct Hinweis {
-    int         Position;
-    std::string D, E;
-};
-
-const std::vector<Hinweis> Hinweise = {
-    {2, "Neue Datei", "New"},
-    {4, "Datei Laden", "Load"},
-    {5, "Speichern", "Save"},
-    {7, "Drucken", "Print"},
-    {9, "Ausschneiden", "Cut"},
-    {10, "Kopieren", "Copy"},
-    {11, "Einfügen", "Paste"},
-    {12, "Suchen/Ersetzen", "Search/Replace"},
-    {14, "Rückgängig", "Undo"},
-    {15, "Wiederholen", "Redo"},
-    {17, "IC Lesen", "Read IC"},
-    {18, "IC Brennen", "Program IC"},
-    {19, "IC Prüfen / Daten vergleichen", "Check IC / Compare data"},
-    {21, "Assemblieren", "Assemble"},
-    {23, "Daten für den Debugger vorbereiten", "Prepare debugger data"},
-    {24, "Starten", "Start execution"},
-    {25, "Einzelschritt ausführen", "Single step execution"},
-    {26, "Schritt nach oben (ohne auszuführen)", "Step upwards (without execution)"},
-    {27, "Schritt nach unten (ohne auszuführen)", "Step downwards (without execution)"},
-    {28, "Debuggermodus beenden", "Quit debugger mode"},
-};
 
 class Texte_Welt : public Welt {
 protected:
@@ -122,13 +28,13 @@ protected:
 TEST_F(Texte_Welt, every_caption_in_German)
 {
     Sprache_Deutsch();
-    for (const Beschriftung& b : Beschriftungen)
+    for (const Beschriftung& b : Menue_Texte)
         EXPECT_EQ(Eintrag(b.Name).Titel, b.D) << b.Name;
 }
 TEST_F(Texte_Welt, every_caption_in_English)
 {
     Sprache_Englisch();
-    for (const Beschriftung& b : Beschriftungen)
+    for (const Beschriftung& b : Menue_Texte)
         EXPECT_EQ(Eintrag(b.Name).Titel, b.E) << b.Name;
 }
 TEST_F(Texte_Welt, every_entry_but_separators_and_recent_files_has_a_caption_in_both)
@@ -213,11 +119,11 @@ TEST_F(Texte_Welt, the_version_is_three_numbers)
 TEST_F(Texte_Welt, every_tool_tip_in_both_languages)
 {
     Sprache_Deutsch();
-    for (const Hinweis& h : Hinweise)
-        EXPECT_EQ(Werkzeug(h.Position).Hinweis, h.D) << h.Position;
+    for (const Werkzeug_Beschriftung& h : Werkzeug_Texte)
+        EXPECT_EQ(Werkzeug(h.Nummer).Hinweis, h.D) << h.Nummer;
     Sprache_Englisch();
-    for (const Hinweis& h : Hinweise)
-        EXPECT_EQ(Werkzeug(h.Position).Hinweis, h.E) << h.Position;
+    for (const Werkzeug_Beschriftung& h : Werkzeug_Texte)
+        EXPECT_EQ(Werkzeug(h.Nummer).Hinweis, h.E) << h.Nummer;
 }
 TEST_F(Texte_Welt, the_tool_tip_of_the_mode_button_follows_the_mode)
 {

@@ -12,6 +12,7 @@
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Echte_Uhr.h"
 #include "programmer/Port_Einrichtung.h"
+#include "support/Beschriftungen.h"
 #include "support/scripted_platform.h"
 
 #include <gtest/gtest.h>
@@ -433,57 +434,9 @@ TEST_F(Optionen_Welt, the_same_kind_of_port_keeps_its_driver)
 
 // --- captions ---
 
-struct Beschriftungs_Fall {
-    const char* Name;
-    const char* D;
-    const char* E;
-};
-
-// clang-format off
-const Beschriftungs_Fall Beschriftungen[] = {
-    {"Optionen", "Optionen", "Options"},
-    {"SSTab_1", "Oberfläche", "Surface"},
-    {"SSTab_2", "Programmiergerät", "Programmer"},
-    {"B_OK", "OK", "OK"},
-    {"B_Üb", "Übernehmen", "Accept"},
-    {"B_Ab", "Abbrechen", "Cancel"},
-    {"T_Portadr", "Parallelport Adresse (Standart LPT1: 378h / LPT2: 278h)", "Parallelport address (standard LPT1: 378h / LPT2: 278h)"},
-    {"Schrift_1", "Schrifteinstellung MC-Editor Fenster:", "Font settings MC-Editor window:"},
-    {"Schrift_2", "Schrifteinstellung Sprungmarken Fenster:", "Font settings Jumpmarks:"},
-    {"Schrift_3", "Schrifteinstellung Notizen Fenster:", "Font settings Notes window:"},
-    {"C_Brenner", "Programmiergerät vor dem Zugriff auf Funktion überprüfen", "Check programmer before access"},
-    {"C_IC", "Eingesetzten MC vor dem Zugriff überprüfen (Nur beim Tessel programmer)", "Check MC before access (only Tessel programmer)"},
-    {"C_IC_vor_B", "Lese die Daten des IC vor dem Anzeigen des Brenndialogs", "Read IC data before the programming dialog opens"},
-    {"C_IC_bei_B", "Überprüfe Daten des IC's während des Brennens", "Check the data on the IC during programming"},
-    {"C_IC_nach_B", "Überprüfe Daten des IC's nach dem Brennen", "Check the data on the IC after programming"},
-    {"No_FF", "Beim Brennvorgang keine FF's brennen", "Program no 'FF' on IC"},
-    {"Farbe_Text", "Hintergrundfarbe MC-Editor  Fenster und Zusatzfenster", "Set background color for mc-editor and additionally windows"},
-    {"Farbe", "Ändern", "Change"},
-    {"Lade_Letzte", "Lade beim Programmstart die zuletzt bearbeitete Datei automatisch ein", "Load at program-start automatically the last used file into the editor."},
-    {"T_Undo_Max", "Schritte bei der 'Rückgängig' / 'Wiederholen' Funktion", "possibly steps at undo/redo function"},
-    {"C_keine_TAB_SM", "Zeige keine Sprungmarken mit vorgestellten Tabs im SM-Fenster", "If there is a tab sign before a jump mark, don't display the jumpmark in the jumpmarks window"},
-    {"C_keine_US_SM", "Zeige keine Sprungmarken mit vorgestellten Unterstrich '_' im SM-Fenster", "If there is a underline sign '_' before a jump mark, don't display the jumpmark in the jumpmarks window"},
-    {"C_Erstelle_Listfile", "Erstelle automatisch Listfile beim Assemblieren (dateiname.l51)", "When assembling routine finished, create and save a list file under filename.l51"},
-    {"C_Auto_Binfile", "Erstelle automatisch Binärfile beim Assemblieren (dateiname.bin)", "When assembling routine finished, save automatically a binary file under filename.bin"},
-    {"C_Auto_Hexfile", "Erstelle automatisch Hexfile beim Assemblieren (dateiname.hex)", "When assembling routine finished, save automatically a hex file under filename.hex"},
-    {"C_Autosave_Ass", "AutoSave: Vor dem Assemblieren eine Kopie des Programmes speichern", "AutoSave: Bevor the assembler starts, save a copy of the program"},
-    {"C_Autosave_timed", "AutoSave: Nach 6 Minuten Arbeit eine Kopie des Programmes speichern", "AutoSave: Save every 6 minutes a copy of the program"},
-    {"O_Automatik_Bef", "Erkannte Befehle und Bezeichnungen im MC-Editor:", "Change text of identified instructions in the mc-editor:"},
-    {"O_Automatik_Bef_1", "Komplett grossschreiben 'MOV'", "All signs capitalized 'MOV'"},
-    {"O_Automatik_Bef_2", "Erster Buchstabe gross, Rest klein 'Mov'", "First sign capitalized, rest in lower case 'Mov'"},
-    {"O_Automatik_Bef_3", "So lassen, wie sie eingetippt werden 'mov'", "Don't change the text 'mov'"},
-    {"Zahlendeutung", "Deute Zahlenangaben ohne Kennung als:", "Interpret values without additional trailing as:"},
-    {"Zahlendeutung_1", "Dezimalzahlen (standard)", "Decimal values (standard)"},
-    {"Zahlendeutung_2", "Hexadezimalzahlen", "Hexadecimal values"},
-    {"O_MOV_ZQ", "Sondereinstellung für den Befehl MOV direct, direct:", "Special sequencing for 'MOV direct, direct:'"},
-    {"O_MOV_ZQ_1", "Erst Ziel, dann Quelle (MOV Ziel, Quelle) (standard)", " MOV destination, source (standard)"},
-    {"O_MOV_ZQ_2", "Erst Quelle, dann Ziel (MOV Quelle, Ziel)", " MOV source, destination"},
-};
-// clang-format on
-
 TEST_F(Optionen_Welt, every_control_has_its_caption_in_both_languages)
 {
-    for (const Beschriftungs_Fall& f : Beschriftungen) {
+    for (const Options_Beschriftung& f : Options_Texte) {
         Sprache = "D";
         EXPECT_EQ(Optionen_Text(f.Name), f.D) << f.Name;
         Sprache = "E";

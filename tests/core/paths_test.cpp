@@ -1,5 +1,6 @@
 // Names that come out of texts, and the program folder.
 #include "core/paths.h"
+#include "support/Arbeitsordner.h"
 
 #include <gtest/gtest.h>
 
@@ -16,8 +17,6 @@ class Pfade : public ::testing::Test {
 protected:
     Pfade()
     {
-        std::string Vorlage = (fs::temp_directory_path() / "varnholt-paths-XXXXXX").string();
-        Ordner              = mkdtemp(Vorlage.data());
         Merken("VARNHOLT_HOME", Alt_Home);
         Merken("XDG_DATA_HOME", Alt_XDG);
     }
@@ -25,7 +24,6 @@ protected:
     {
         Zurueck("VARNHOLT_HOME", Alt_Home);
         Zurueck("XDG_DATA_HOME", Alt_XDG);
-        fs::remove_all(Ordner);
     }
     void Anlegen(const std::string& Name) const
     {
@@ -45,8 +43,9 @@ protected:
             setenv(Name, Wert.c_str(), 1);
     }
 
-    fs::path    Ordner{};
-    std::string Alt_Home{}, Alt_XDG{};
+    varnholt::test::Arbeitsordner Eigener{};
+    const fs::path&               Ordner = Eigener.Pfad;
+    std::string                   Alt_Home{}, Alt_XDG{};
 };
 
 TEST_F(Pfade, a_backslash_separates_folders)

@@ -8,6 +8,7 @@
 #include "core/undo_file.h"
 #include "files/Dateien_Welt.h"
 #include "files/Textdatei.h"
+#include "support/Tippen.h"
 
 #include <csignal>
 #include <filesystem>
@@ -61,25 +62,9 @@ protected:
         Undo_Zuruecksetzen();
     }
 
-    // What the editor does at a key that changes the text, and when the caret leaves the line.
-    void Tippen(const std::string& Neuer)
-    {
-        Undo_Taste = true;
-        if (!std::exchange(Undo_Begonnen, true)) {
-            Undo_Schritt_speichern();
-            Undo_Oben = Undo_Index;
-        }
-        Feld.Text_Setzen(Neuer);
-        Text_Veraendert = true;
-    }
-    static void Verlassen()
-    {
-        if (!std::exchange(Text_Veraendert, false))
-            return;
-        Undo_Schritt_speichern();
-        Undo_Oben = Undo_Index;
-    }
-    void Zeile_Schreiben(const std::string& Neuer)
+    void        Tippen(const std::string& Neuer) { Tippen_In(Feld, Neuer); }
+    static void Verlassen() { Zeile_Verlassen(); }
+    void        Zeile_Schreiben(const std::string& Neuer)
     {
         Tippen(Neuer);
         Verlassen();

@@ -4,6 +4,7 @@
 #include "core/commands.h"
 #include "core/shared_state.h"
 #include "core/version.h"
+#include "support/Arbeitsordner.h"
 #include "support/scripted_platform.h"
 
 #include <filesystem>
@@ -17,14 +18,7 @@ namespace fs = std::filesystem;
 
 class Web_Welt : public Welt {
 protected:
-    Web_Welt()
-    {
-        std::string Vorlage = (fs::temp_directory_path() / "varnholt-web-XXXXXX").string();
-        if (mkdtemp(Vorlage.data()) == nullptr)
-            throw std::runtime_error("no temporary folder");
-        Programm_Pfad = Vorlage + "/";
-    }
-    ~Web_Welt() override { fs::remove_all(Ordner); }
+    Web_Welt() { Programm_Pfad = Eigener.Name(""); }
 
     std::string Ort() const { return Umgebung.Orte.empty() ? "" : Umgebung.Orte.back(); }
     std::string Anlegen(const std::string& Unterordner, const std::string& Name) const
@@ -41,6 +35,7 @@ protected:
     }
 
 private:
+    Arbeitsordner      Eigener{};
     const std::string& Ordner = Programm_Pfad;
 };
 

@@ -10,6 +10,7 @@
 #include "editors/Einfaerben.h"
 #include "editors/Quelltext_Zeile.h"
 #include "editors/Sprungmarken.h"
+#include "support/Arbeitsordner.h"
 #include "support/scripted_platform.h"
 
 #include <rapidcheck/gtest.h>
@@ -810,17 +811,15 @@ class Schritte_Test : public Quelltext_Test {
 protected:
     Schritte_Test()
     {
-        char Name[] = "/tmp/varnholt-editor-XXXXXX";
-        Ordner      = mkdtemp(Name);
         std::filesystem::create_directories(Ordner / "Undo");
         Programm_Pfad     = (Ordner / "").string();
         Autosave_Zeitlich = false;
         Undo_Max          = 99;
         Undo_Zuruecksetzen();
     }
-    ~Schritte_Test() override { std::filesystem::remove_all(Ordner); }
 
-    std::filesystem::path Ordner{};
+    Arbeitsordner                Eigener{};
+    const std::filesystem::path& Ordner = Eigener.Pfad;
 };
 
 TEST_F(Schritte_Test, The_first_key_of_a_document_takes_a_snapshot)

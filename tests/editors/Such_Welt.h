@@ -9,6 +9,7 @@
 #include "core/undo.h"
 #include "core/windows.h"
 #include "editors/Suche.h"
+#include "support/Arbeitsordner.h"
 #include "support/scripted_platform.h"
 
 #include <filesystem>
@@ -93,20 +94,14 @@ class Such_Welt : public Welt {
 protected:
     Such_Welt()
     {
-        std::string Vorlage =
-            (std::filesystem::temp_directory_path() / "varnholt-suche-XXXXXX").string();
-        if (mkdtemp(Vorlage.data()) == nullptr)
-            throw std::runtime_error("no temporary folder");
-        Ordner = Vorlage;
-        std::filesystem::create_directory(Ordner + "/Undo");
-        Programm_Pfad     = Ordner + "/";
+        std::filesystem::create_directory(Ordner.Pfad / "Undo");
+        Programm_Pfad     = Ordner.Name("");
         Autosave_Zeitlich = false;
         Modus             = Modus_MC;
         Plattform.Edit    = &Feld;
         Text_Aktuell      = true;
         Undo_Zuruecksetzen();
     }
-    ~Such_Welt() override { std::filesystem::remove_all(Ordner); }
 
     void Im_Editor(const std::string& UTF8, std::int64_t Anfang = 0, std::int64_t Laenge = 0)
     {
@@ -138,7 +133,8 @@ protected:
     long Aufnahmen() const
     {
         namespace fs = std::filesystem;
-        return std::distance(fs::directory_iterator(Ordner + "/Undo"), fs::directory_iterator{});
+        return std::distance(fs::directory_iterator(Ordner.Pfad / "Undo"),
+                             fs::directory_iterator{});
     }
     std::string Farbbild() const
     {
@@ -150,8 +146,8 @@ protected:
         return Bild;
     }
 
-    Reiches_Feld Feld{};
-    std::string  Ordner{};
+    Reiches_Feld  Feld{};
+    Arbeitsordner Ordner{};
 };
 
 } // namespace varnholt::test

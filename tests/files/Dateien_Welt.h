@@ -3,6 +3,7 @@
 
 #include "core/shared_state.h"
 #include "files/Datei_Zustand.h"
+#include "support/Arbeitsordner.h"
 #include "support/scripted_platform.h"
 
 #include <cstdint>
@@ -13,27 +14,6 @@
 #include <vector>
 
 namespace varnholt::test {
-
-// A folder under the system's temporary one; anybody may enter and read it.
-class Arbeitsordner {
-public:
-    Arbeitsordner();
-    Arbeitsordner(const Arbeitsordner&)            = delete;
-    Arbeitsordner& operator=(const Arbeitsordner&) = delete;
-    ~Arbeitsordner();
-
-    std::string Name(std::string_view Datei) const { return (Pfad / Datei).string(); }
-    // Writes a file; its full name.
-    std::string Anlegen(std::string_view Datei, std::string_view Bytes) const;
-    // Names of all files in the folder, sorted; shows what a failed write has left behind.
-    std::vector<std::string> Inhalt() const;
-
-    std::filesystem::path Pfad{};
-};
-
-// The bytes of a file, "<missing>" without one.
-std::string               Bytes_Von(const std::string& Name);
-std::vector<std::uint8_t> Als_Bytes(std::string_view Text);
 
 class Dateien_Welt : public Welt {
 protected:

@@ -2,6 +2,7 @@
 // image (address: bytes, hexadecimal, the rest is FFh). In load/ every other file must load as the
 // image of its name says; in save/ the image must save as the file beside it, to the byte.
 #include "files/Dateien_Welt.h"
+#include "support/Golden.h"
 
 #include <algorithm>
 #include <fstream>
@@ -15,23 +16,9 @@ namespace {
 namespace fs = std::filesystem;
 
 // Every file of a folder but the images.
-std::vector<fs::path> Faelle(const char* Unterordner)
+std::vector<fs::path> Faelle(const char* Ordner)
 {
-    std::vector<fs::path> Dateien;
-    for (const auto& e :
-         fs::directory_iterator(fs::path(VARNHOLT_TEST_DATA) / "golden/files" / Unterordner))
-        if (e.path().extension() != ".image")
-            Dateien.push_back(e.path());
-    std::sort(Dateien.begin(), Dateien.end());
-    return Dateien;
-}
-
-std::string Fall_Name(const ::testing::TestParamInfo<fs::path>& Fall)
-{
-    std::string Name = Fall.param.filename().string();
-    std::replace_if(
-        Name.begin(), Name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-    return Name;
+    return Golden_Faelle(Ordner, [](std::string_view e) { return e != ".image"; });
 }
 
 std::vector<std::uint8_t> Bild_Lesen(fs::path Datei)
@@ -72,8 +59,11 @@ TEST_P(Golden_Speichern, gives_the_file)
     EXPECT_EQ(Speichern(GetParam().filename().string()), Bytes_Von(GetParam().string()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Datei, Golden_Laden, ::testing::ValuesIn(Faelle("load")), Fall_Name);
-INSTANTIATE_TEST_SUITE_P(Datei, Golden_Speichern, ::testing::ValuesIn(Faelle("save")), Fall_Name);
+INSTANTIATE_TEST_SUITE_P(Datei, Golden_Laden, ::testing::ValuesIn(Faelle("files/load")), Fall_Name);
+INSTANTIATE_TEST_SUITE_P(Datei,
+                         Golden_Speichern,
+                         ::testing::ValuesIn(Faelle("files/save")),
+                         Fall_Name);
 
 } // namespace
 } // namespace varnholt::test

@@ -6,19 +6,14 @@
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "language/Assembler_Zustand.h"
+#include "support/Arbeitsordner.h"
 #include "support/scripted_platform.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
-
-#include <unistd.h>
 
 namespace varnholt::test {
 
@@ -51,41 +46,6 @@ inline std::string Kurz(std::string_view Text)
 {
     return std::string{Text.substr(0, 200)} + (Text.size() > 200 ? "..." : "");
 }
-
-// A folder of its own under the system's one for temporary files; gone with the object.
-class Test_Ordner {
-public:
-    Test_Ordner()
-    {
-        Pfad_ = std::filesystem::temp_directory_path() /
-                ("varnholt_assembler_" + std::to_string(::getpid()) + "_" +
-                 std::to_string(Nummer_.fetch_add(1)));
-        std::filesystem::create_directories(Pfad_);
-    }
-    ~Test_Ordner()
-    {
-        std::error_code Fehler;
-        std::filesystem::remove_all(Pfad_, Fehler);
-    }
-    Test_Ordner(const Test_Ordner&)            = delete;
-    Test_Ordner& operator=(const Test_Ordner&) = delete;
-
-    const std::filesystem::path& Pfad() const { return Pfad_; }
-    // Writes a file to the byte; folders in the name are made.
-    std::filesystem::path Datei(const std::string& Name, std::string_view Bytes) const
-    {
-        const std::filesystem::path Ziel = Pfad_ / Name;
-        std::filesystem::create_directories(Ziel.parent_path());
-        std::ofstream Aus{Ziel, std::ios::binary};
-        Aus.write(Bytes.data(), static_cast<std::streamsize>(Bytes.size()));
-        EXPECT_TRUE(Aus.flush()) << Ziel;
-        return Ziel;
-    }
-
-private:
-    inline static std::atomic<int> Nummer_{0};
-    std::filesystem::path          Pfad_{};
-};
 
 // The world of the assembler's tests. Texts are Windows-1252 with LF line ends.
 class Assembler_Welt : public Welt {

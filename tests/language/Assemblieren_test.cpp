@@ -629,13 +629,13 @@ class Include_Fehler_Welt : public Assemblieren_Welt {
 protected:
     Include_Fehler_Welt()
     {
-        Datei_Name = (Ordner.Pfad() / "haupt.asm").string();
-        Ordner.Datei("drei.inc", "NOP\nNOP\nNOP\n");
-        Ordner.Datei("falsch.inc", "NOP\nFOO\nNOP\n");
-        Ordner.Datei("leer.inc", "");
+        Datei_Name = (Ordner.Pfad / "haupt.asm").string();
+        Ordner.Anlegen("drei.inc", "NOP\nNOP\nNOP\n");
+        Ordner.Anlegen("falsch.inc", "NOP\nFOO\nNOP\n");
+        Ordner.Anlegen("leer.inc", "");
     }
 
-    Test_Ordner Ordner{};
+    Arbeitsordner Ordner{};
 };
 
 TEST_F(Include_Fehler_Welt, an_error_in_an_included_file_is_shown_at_the_INCLUDE_line)
@@ -662,41 +662,42 @@ TEST_F(Include_Fehler_Welt, an_error_before_an_included_file_is_shown_at_its_lin
 
 TEST_F(Include_Fehler_Welt, an_error_behind_nested_files_is_shown_at_its_line)
 {
-    Ordner.Datei("aussen.inc", "NOP\nINCLUDE drei.inc\nNOP\n");
+    Ordner.Anlegen("aussen.inc", "NOP\nINCLUDE drei.inc\nNOP\n");
     Erwarte_Stelle("NOP\nINCLUDE aussen.inc\nNOP\nFOO", 3, "FOO");
 }
 
 TEST_F(Include_Fehler_Welt, an_error_in_a_nested_file_is_shown_at_the_outer_INCLUDE_line)
 {
-    Ordner.Datei("aussen.inc", "INCLUDE falsch.inc\nNOP\n");
+    Ordner.Anlegen("aussen.inc", "INCLUDE falsch.inc\nNOP\n");
     Erwarte_Stelle("NOP\nINCLUDE aussen.inc\nNOP", 1, "INCLUDE aussen.inc");
     EXPECT_EQ(Letzte_Meldung(), "Error in the include file!: " + Ohne_Prozessor.E);
 }
 
 TEST_F(Include_Fehler_Welt, rows_that_a_nested_file_pushed_out_of_the_outer_range_have_no_prefix)
 {
-    Ordner.Datei("aussen.inc",
-                 "NOP\nINCLUDE drei.inc\nFOO\n"); // FOO stands in row 4, the range ends at 2
+    Ordner.Anlegen("aussen.inc",
+                   "NOP\nINCLUDE drei.inc\nFOO\n"); // FOO stands in row 4, the range ends at 2
     Erwarte_Stelle("INCLUDE aussen.inc\nNOP\nNOP", 0, "INCLUDE aussen.inc");
     EXPECT_EQ(Letzte_Meldung(), Ohne_Prozessor.E);
 }
 
 TEST_F(Include_Fehler_Welt, a_line_before_the_first_one_is_the_first_one)
 {
-    Ordner.Datei("vier.inc", "NOP\nNOP\nNOP\nFOO\n");
-    Ordner.Datei("aussen.inc", "NOP\nINCLUDE vier.inc\nNOP\n"); // row 4 is in the inner range alone
+    Ordner.Anlegen("vier.inc", "NOP\nNOP\nNOP\nFOO\n");
+    Ordner.Anlegen("aussen.inc",
+                   "NOP\nINCLUDE vier.inc\nNOP\n"); // row 4 is in the inner range alone
     Erwarte_Stelle("INCLUDE aussen.inc\nNOP", 0, "INCLUDE aussen.inc");
     EXPECT_EQ(Letzte_Meldung(), "Error in the include file!: " + Ohne_Prozessor.E);
 }
 
 TEST_F(Include_Fehler_Welt, a_missing_file_inside_a_file_is_told_without_prefix)
 {
-    Ordner.Datei("aussen.inc", "NOP\nINCLUDE fehlt.inc\n");
+    Ordner.Anlegen("aussen.inc", "NOP\nINCLUDE fehlt.inc\n");
     Erwarte_Fehler("NOP\nINCLUDE aussen.inc\nNOP",
                    "Die einzubindene Datei konnte nicht gefunden werden!",
                    "Can't find the include file!");
     Erwarte_Stelle("NOP\nINCLUDE aussen.inc\nNOP", 1, "INCLUDE aussen.inc");
-    Ordner.Datei("aussen.inc", "INCLUDE fehlt.mc\n");
+    Ordner.Anlegen("aussen.inc", "INCLUDE fehlt.mc\n");
     Laufen("NOP\nINCLUDE aussen.inc\nNOP");
     EXPECT_EQ(Letzte_Meldung(),
               "Can't find the processorfile! Please use one of the following catalog.");

@@ -5,6 +5,7 @@
 #include "files/Textdatei.h"
 #include "language/Assembler_Hilfe.h"
 #include "language/Opcode_Tafel.h"
+#include "support/Golden.h"
 
 #include <algorithm>
 #include <cctype>
@@ -21,27 +22,7 @@ namespace fs = std::filesystem;
 
 std::vector<fs::path> Faelle()
 {
-    std::vector<fs::path> Dateien;
-    for (const auto& e : fs::directory_iterator(fs::path(VARNHOLT_TEST_DATA) / "golden/assembler"))
-        if (e.path().extension() == ".asm")
-            Dateien.push_back(e.path());
-    std::sort(Dateien.begin(), Dateien.end());
-    return Dateien;
-}
-
-std::string Fall_Name(const ::testing::TestParamInfo<fs::path>& Fall)
-{
-    std::string Name = Fall.param.stem().string();
-    std::replace_if(
-        Name.begin(), Name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-    return Name;
-}
-
-std::string Datei_Bytes(const fs::path& Pfad)
-{
-    std::ifstream Datei(Pfad, std::ios::binary);
-    EXPECT_TRUE(Datei) << Pfad;
-    return {std::istreambuf_iterator<char>(Datei), {}};
+    return Golden_Faelle("assembler", [](std::string_view e) { return e == ".asm"; });
 }
 
 std::vector<std::string> Zeilen_Von(const std::string& Text)
@@ -79,14 +60,14 @@ protected:
     void Lauf_Beginnen()
     {
         Datei_Name  = GetParam().string();
-        Quell_Text  = Text_Entschluesseln(Datei_Bytes(GetParam())).Text;
+        Quell_Text  = Text_Entschluesseln(Bytes_Von(GetParam())).Text;
         Edit.Inhalt = Quell_Text;
         Assemblieren();
     }
 
     void Fehler_Pruefen()
     {
-        const auto  Zeilen = Zeilen_Von(Datei_Bytes(Beiblatt(".err")));
+        const auto  Zeilen = Zeilen_Von(Bytes_Von(Beiblatt(".err")));
         std::string Soll;
         for (std::size_t i = 1; i < Zeilen.size(); ++i)
             Soll += (i > 1 ? "\r\n" : "") + Zeilen[i];
@@ -102,7 +83,7 @@ protected:
 
     void Bild_Pruefen()
     {
-        const std::string Soll = Datei_Bytes(Beiblatt(".bin"));
+        const std::string Soll = Bytes_Von(Beiblatt(".bin"));
         ASSERT_EQ(Code_Ende, static_cast<std::int32_t>(Soll.size()));
         for (std::size_t i = 0; i < Soll.size(); ++i)
             ASSERT_EQ(Hex2(Hex_Daten.at(i)), Hex2(static_cast<unsigned char>(Soll[i])))
@@ -133,9 +114,9 @@ protected:
 
 TEST_P(Golden_Assembler, gives_what_its_files_say)
 {
-    const Test_Ordner Ordner;
+    const Arbeitsordner Ordner;
     C_Erstelle_Listfile = Hat(".l51");
-    Listen_Name         = (Ordner.Pfad() / "list").string();
+    Listen_Name         = (Ordner.Pfad / "list").string();
     Lauf_Beginnen();
     if (Hat(".err"))
         return Fehler_Pruefen();
@@ -145,7 +126,7 @@ TEST_P(Golden_Assembler, gives_what_its_files_say)
     if (Hat(".bin"))
         Bild_Pruefen();
     if (Hat(".l51")) {
-        EXPECT_EQ(Datei_Bytes(Ordner.Pfad() / "list"), Datei_Bytes(Beiblatt(".l51")));
+        EXPECT_EQ(Bytes_Von(Ordner.Pfad / "list"), Bytes_Von(Beiblatt(".l51")));
     }
 }
 

@@ -11,6 +11,7 @@
 #include "language/HexDez.h"
 #include "language/Opcode_Tafel.h"
 #include "programmer/Geraete.h"
+#include "support/Golden.h"
 
 #include <algorithm>
 #include <cctype>
@@ -657,28 +658,7 @@ TEST_F(Umschalten, there_and_back_gives_the_image_again)
 
 std::vector<fs::path> Faelle()
 {
-    std::vector<fs::path> Dateien;
-    for (const auto& e :
-         fs::directory_iterator(fs::path(VARNHOLT_TEST_DATA) / "golden/disassembler"))
-        if (e.path().extension() == ".bin")
-            Dateien.push_back(e.path());
-    std::sort(Dateien.begin(), Dateien.end());
-    return Dateien;
-}
-
-std::string Fall_Name(const ::testing::TestParamInfo<fs::path>& Fall)
-{
-    std::string Name = Fall.param.stem().string();
-    std::replace_if(
-        Name.begin(), Name.end(), [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-    return Name;
-}
-
-std::string Datei_Inhalt(const fs::path& Pfad)
-{
-    std::ifstream Datei(Pfad, std::ios::binary);
-    EXPECT_TRUE(Datei) << Pfad;
-    return {std::istreambuf_iterator<char>(Datei), {}};
+    return Golden_Faelle("disassembler", [](std::string_view e) { return e == ".bin"; });
 }
 
 class Golden_Disassembler : public Disassembler, public ::testing::WithParamInterface<fs::path> {};
@@ -686,9 +666,8 @@ class Golden_Disassembler : public Disassembler, public ::testing::WithParamInte
 TEST_P(Golden_Disassembler, gives_the_text_beside_it)
 {
     fs::path          Soll = GetParam();
-    const std::string Roh  = Datei_Inhalt(Soll);
-    EXPECT_EQ(Zerlege(Bytes_T(Roh.begin(), Roh.end())),
-              Datei_Inhalt(Soll.replace_extension(".txt")));
+    const std::string Roh  = Bytes_Von(Soll);
+    EXPECT_EQ(Zerlege(Bytes_T(Roh.begin(), Roh.end())), Bytes_Von(Soll.replace_extension(".txt")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Datei, Golden_Disassembler, ::testing::ValuesIn(Faelle()), Fall_Name);

@@ -609,9 +609,9 @@ TEST_F(Kodierer_Welt, says_unknown_instruction_when_a_processor_file_is_included
 
 TEST_F(Kodierer_Welt, hints_at_the_processor_file_when_only_other_files_are_included)
 {
-    const Test_Ordner Ordner;
-    Ordner.Datei("defs.inc", "X EQU 5\r\n");
-    Datei_Name = (Ordner.Pfad() / "a.asm").string();
+    const Arbeitsordner Ordner;
+    Ordner.Anlegen("defs.inc", "X EQU 5\r\n");
+    Datei_Name = (Ordner.Pfad / "a.asm").string();
     Erwarte_Fehler("INCLUDE defs.inc\nFOO", Ohne_Prozessor.D, Ohne_Prozessor.E);
 }
 

@@ -21,20 +21,20 @@ namespace fs = std::filesystem;
 // Works in a folder of its own, which is the current one while the test runs.
 class Ausgaben_Welt : public Assembler_Welt {
 protected:
-    Ausgaben_Welt() { fs::current_path(Ordner.Pfad()); }
+    Ausgaben_Welt() { fs::current_path(Ordner.Pfad); }
     ~Ausgaben_Welt() override { fs::current_path(Vorher); }
 
-    std::string Pfad(const std::string& Name) const { return (Ordner.Pfad() / Name).string(); }
+    std::string Pfad(const std::string& Name) const { return (Ordner.Pfad / Name).string(); }
     std::string Lesen(const std::string& Name) const
     {
-        std::ifstream Datei(Ordner.Pfad() / Name, std::ios::binary);
+        std::ifstream Datei(Ordner.Pfad / Name, std::ios::binary);
         return Datei ? std::string{std::istreambuf_iterator<char>(Datei), {}} : "<missing>";
     }
     // Names of all files that the test left in its folder, in order.
     std::string Inhalt() const
     {
         std::vector<std::string> Namen_Da;
-        for (const auto& e : fs::directory_iterator(Ordner.Pfad()))
+        for (const auto& e : fs::directory_iterator(Ordner.Pfad))
             Namen_Da.push_back(e.path().filename().string());
         std::sort(Namen_Da.begin(), Namen_Da.end());
         std::string Alle;
@@ -60,8 +60,8 @@ protected:
         IC_Groesse.at(36)            = Groesse;
     }
 
-    Test_Ordner Ordner{};
-    fs::path    Vorher = fs::current_path();
+    Arbeitsordner Ordner{};
+    fs::path      Vorher = fs::current_path();
 };
 
 // --- device size --------------------------------------------------------------------------------
@@ -284,7 +284,7 @@ TEST_F(Ausgaben_Welt, lists_a_one_line_IF_twice)
 
 TEST_F(Ausgaben_Welt, lists_the_lines_of_included_files)
 {
-    Ordner.Datei("defs.inc", "X EQU 5\nY: NOP\n");
+    Ordner.Anlegen("defs.inc", "X EQU 5\nY: NOP\n");
     Datei_Name          = Pfad("a.asm");
     C_Erstelle_Listfile = true;
     Laufen("INCLUDE defs.inc\nRET");
@@ -378,7 +378,7 @@ TEST_F(Ausgaben_Welt, calls_the_list_of_a_path_without_a_dot_just_by_its_extensi
 
 TEST_F(Ausgaben_Welt, writes_the_list_anew_each_time)
 {
-    Ordner.Datei("TEMP.L51", std::string(5000, 'x'));
+    Ordner.Anlegen("TEMP.L51", std::string(5000, 'x'));
     EXPECT_EQ(Liste("RET"), "    0   0000\t22          \tRET\r\n");
     EXPECT_EQ(Inhalt(), "TEMP.L51");
 }
@@ -430,7 +430,7 @@ TEST_F(Ausgaben_Welt, tells_a_failed_write_and_ends_as_usual)
 TEST_F(Ausgaben_Welt, keeps_what_stands_under_the_name_when_a_write_fails)
 {
     fs::create_directory(Pfad("TEMP.L51")); // a folder can't be replaced by a file
-    Ordner.Datei("TEMP.L51/old", "old");
+    Ordner.Anlegen("TEMP.L51/old", "old");
     C_Erstelle_Listfile = true;
     Laufen("RET");
     EXPECT_EQ(Box.Hinweise.size(), 1U);

@@ -117,9 +117,9 @@ TEST_F(Marken_Welt, refuses_a_label_twice_without_regard_to_case)
 
 TEST_F(Marken_Welt, refuses_a_label_twice_over_all_files)
 {
-    const Test_Ordner Ordner;
-    Ordner.Datei("x.inc", "X: NOP\r\n");
-    Datei_Name = (Ordner.Pfad() / "a.asm").string();
+    const Arbeitsordner Ordner;
+    Ordner.Anlegen("x.inc", "X: NOP\r\n");
+    Datei_Name = (Ordner.Pfad / "a.asm").string();
     EXPECT_EQ(Assembliere("INCLUDE x.inc\nSJMP X"), "00 80 FD");
     EXPECT_EQ(Assembliere("X: NOP\nINCLUDE x.inc"),
               "Error in the include file!: " + Marke_Doppelt.E);

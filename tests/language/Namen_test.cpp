@@ -186,10 +186,10 @@ TEST_F(Namen_Welt, enters_the_PORT_name_also_when_the_name_goes_on_behind_the_ke
 
 TEST_F(Namen_Welt, keeps_where_a_definition_comes_from)
 {
-    const Test_Ordner Ordner;
-    Ordner.Datei("defs.inc", "X EQU 5\r\n");
-    Ordner.Datei("chip.mc", "P1 DATA 90h\r\n");
-    Datei_Name = (Ordner.Pfad() / "a.asm").string();
+    const Arbeitsordner Ordner;
+    Ordner.Anlegen("defs.inc", "X EQU 5\r\n");
+    Ordner.Anlegen("chip.mc", "P1 DATA 90h\r\n");
+    Datei_Name = (Ordner.Pfad / "a.asm").string();
     ASSERT_EQ(Assembliere("INCLUDE defs.inc\nINCLUDE chip.mc\nY EQU 6"), "");
     ASSERT_EQ(Namen_Anzahl(), 4);
     const std::pair<const char*, int> Soll[] = {{"X", 2}, {"PORT1", 0}, {"P1", 1}, {"Y", 0}};

@@ -212,10 +212,10 @@ class Include_Welt : public Assembler_Welt {
 protected:
     Include_Welt()
     {
-        Datei_Name    = (Ordner.Pfad() / "quelle" / "haupt.asm").string();
-        Programm_Pfad = (Ordner.Pfad() / "programm" / "").string();
+        Datei_Name    = (Ordner.Pfad / "quelle" / "haupt.asm").string();
+        Programm_Pfad = (Ordner.Pfad / "programm" / "").string();
         for (const char* Name : {"quelle", "programm/include", "programm/mc"})
-            std::filesystem::create_directories(Ordner.Pfad() / Name);
+            std::filesystem::create_directories(Ordner.Pfad / Name);
     }
 
     void Erwarte(std::string_view Text, const Text_Paar& Meldung)
@@ -225,20 +225,20 @@ protected:
 
     void Neben_Quelle(const std::string& Name, std::string_view Bytes) const
     {
-        Ordner.Datei("quelle/" + Name, Bytes);
+        Ordner.Anlegen("quelle/" + Name, Bytes);
     }
 
     static int Herkunft(std::size_t Zeile) { return Quell_Zeilen.at(Zeile).Herkunft; }
 
-    Test_Ordner Ordner{};
+    Arbeitsordner Ordner{};
 };
 
 TEST_F(Include_Welt, a_file_is_searched_beside_the_source_then_in_include_then_in_mc)
 {
-    Ordner.Datei("programm/mc/x.inc", "DB 3");
+    Ordner.Anlegen("programm/mc/x.inc", "DB 3");
     EXPECT_EQ(Assembliere("INCLUDE x.inc"), "03");
     EXPECT_EQ(Herkunft(0), Herkunft_Prozessorfile);
-    Ordner.Datei("programm/include/x.inc", "DB 2");
+    Ordner.Anlegen("programm/include/x.inc", "DB 2");
     EXPECT_EQ(Assembliere("INCLUDE x.inc"), "02");
     EXPECT_EQ(Herkunft(0), Herkunft_Include);
     Neben_Quelle("x.inc", "DB 1");
@@ -251,13 +251,13 @@ TEST_F(Include_Welt, a_source_without_path_has_no_files_beside_it)
     Neben_Quelle("x.inc", "DB 1");
     Datei_Name.clear();
     Erwarte("INCLUDE x.inc", Include_Fehlt);
-    Ordner.Datei("programm/include/x.inc", "DB 2");
+    Ordner.Anlegen("programm/include/x.inc", "DB 2");
     EXPECT_EQ(Assembliere("INCLUDE x.inc"), "02");
 }
 
 TEST_F(Include_Welt, a_processor_file_is_found_in_mc)
 {
-    Ordner.Datei("programm/mc/8051.mc", "P1 DATA 90h\n");
+    Ordner.Anlegen("programm/mc/8051.mc", "P1 DATA 90h\n");
     EXPECT_EQ(Assembliere("Include 8051.mc\nMOV A,P1"), "E5 90");
     EXPECT_EQ(Herkunft(0), Herkunft_Prozessorfile);
     EXPECT_EQ(Herkunft(1), Herkunft_Haupttext);
@@ -268,7 +268,7 @@ TEST_F(Include_Welt, the_extension_makes_a_processor_file_wherever_it_is_found)
     Neben_Quelle("chip.Mc", "NOP");
     EXPECT_EQ(Assembliere("INCLUDE chip.Mc"), "00");
     EXPECT_EQ(Herkunft(0), Herkunft_Prozessorfile);
-    Ordner.Datei("programm/include/ohnepunktmc", "NOP");
+    Ordner.Anlegen("programm/include/ohnepunktmc", "NOP");
     EXPECT_EQ(Assembliere("INCLUDE ohnepunktmc"), "00");
     EXPECT_EQ(Herkunft(0), Herkunft_Prozessorfile);
 }
@@ -305,9 +305,9 @@ TEST_F(Include_Welt, a_missing_file_behind_other_files_is_selected_in_the_editor
 
 TEST_F(Include_Welt, a_folder_is_no_file)
 {
-    std::filesystem::create_directories(Ordner.Pfad() / "quelle" / "ordner.inc");
+    std::filesystem::create_directories(Ordner.Pfad / "quelle" / "ordner.inc");
     Erwarte("INCLUDE ordner.inc", Include_Fehlt);
-    Ordner.Datei("programm/include/ordner.inc", "NOP");
+    Ordner.Anlegen("programm/include/ordner.inc", "NOP");
     EXPECT_EQ(Assembliere("INCLUDE ordner.inc"), "00");
 }
 
@@ -315,7 +315,7 @@ TEST_F(Include_Welt, a_file_that_cannot_be_read_was_not_found)
 {
     if (::geteuid() == 0)
         GTEST_SKIP() << "the superuser reads every file";
-    const auto Pfad = Ordner.Datei("quelle/zu.inc", "NOP");
+    const auto Pfad = Ordner.Anlegen("quelle/zu.inc", "NOP");
     std::filesystem::permissions(Pfad, std::filesystem::perms::none);
     Erwarte("INCLUDE zu.inc", Include_Fehlt);
 }
@@ -369,7 +369,7 @@ TEST_F(Include_Welt, case_of_a_name_is_ignored_when_there_is_no_exact_match)
 
 TEST_F(Include_Welt, an_inexact_match_beside_the_source_comes_before_an_exact_one_in_include)
 {
-    Ordner.Datei("programm/include/defs.inc", "DB 2");
+    Ordner.Anlegen("programm/include/defs.inc", "DB 2");
     Neben_Quelle("DEFS.INC", "DB 1");
     EXPECT_EQ(Assembliere("INCLUDE defs.inc"), "01");
 }
@@ -380,24 +380,24 @@ TEST_F(Include_Welt, backslashes_and_slashes_separate_folders)
     EXPECT_EQ(Assembliere("INCLUDE teile\\mehr\\x.inc"), "01");
     EXPECT_EQ(Assembliere("INCLUDE teile/mehr/x.inc"), "01");
     EXPECT_EQ(Assembliere("INCLUDE TEILE\\mehr\\X.INC"), "01");
-    Ordner.Datei("oben.inc", "DB 2");
+    Ordner.Anlegen("oben.inc", "DB 2");
     EXPECT_EQ(Assembliere("INCLUDE ..\\oben.inc"), "02");
 }
 
 TEST_F(Include_Welt, a_name_with_a_drive_is_absolute_and_is_not_searched)
 {
     Neben_Quelle("C:/chips/x.inc", "DB 1");
-    Ordner.Datei("programm/include/C:/chips/x.inc", "DB 2");
+    Ordner.Anlegen("programm/include/C:/chips/x.inc", "DB 2");
     Erwarte("INCLUDE \"C:\\chips\\x.inc\"", Include_Fehlt);
     Erwarte("INCLUDE \"C:\\chips\\my.mc\"", Prozessorfile_Fehlt);
 }
 
 TEST_F(Include_Welt, an_absolute_file_has_its_kind_from_the_extension)
 {
-    Ordner.Datei("C:/chips/x.inc", "DB 1");
-    Ordner.Datei("C:/chips/my.mc", "DB 2");
+    Ordner.Anlegen("C:/chips/x.inc", "DB 1");
+    Ordner.Anlegen("C:/chips/my.mc", "DB 2");
     const auto Vorher = std::filesystem::current_path();
-    std::filesystem::current_path(Ordner.Pfad());
+    std::filesystem::current_path(Ordner.Pfad);
     EXPECT_EQ(Assembliere("INCLUDE \"C:\\chips\\x.inc\""), "01");
     EXPECT_EQ(Herkunft(0), Herkunft_Include);
     EXPECT_EQ(Assembliere("Include \"C:\\chips\\my.mc\""), "02");

@@ -50,12 +50,12 @@ class Sitzung_Welt : public Welt {
 protected:
     Sitzung_Welt()
     {
-        Programm_Pfad = Ordner.Pfad().string() + "/";
+        Programm_Pfad = Ordner.Pfad.string() + "/";
         for (const char* Teil : {"mc", "include", "Undo", "Autosave"})
-            std::filesystem::create_directory(Ordner.Pfad() / Teil);
+            std::filesystem::create_directory(Ordner.Pfad / Teil);
         for (const char* Name : {"8051.mc", "8052.mc", "80c552.mc"})
             std::filesystem::copy_file(std::filesystem::path(VARNHOLT_DATA) / "mc" / Name,
-                                       Ordner.Pfad() / "mc" / Name);
+                                       Ordner.Pfad / "mc" / Name);
         Plattform.Edit    = &Text;
         Modus             = Modus_MC;
         Autosave_Zeitlich = false;
@@ -82,7 +82,7 @@ protected:
     }
     void Include_Datei(const std::string& Name, std::string_view Inhalt)
     {
-        Ordner.Datei("include/" + Name, Inhalt);
+        Ordner.Anlegen("include/" + Name, Inhalt);
     }
     static void Schritte(int Anzahl)
     {
@@ -125,8 +125,8 @@ protected:
         In_Jeder_Runde([](int) {});
     }
 
-    Test_Ordner Ordner{};
-    Wach_Text   Text{};
+    Arbeitsordner Ordner{};
+    Wach_Text     Text{};
 
 private:
     static constexpr int Runden_Hoechstens = 2000;

@@ -1,6 +1,7 @@
 // The insertion of stop points, with and without a session; the undo buttons across one.
 #include "editors/Quelltext.h"
 #include "simulator/Sitzung_Welt.h"
+#include "support/Tippen.h"
 
 #include <rapidcheck/gtest.h>
 
@@ -17,24 +18,8 @@ protected:
         Undo_Zuruecksetzen();
     }
 
-    // What the editor does at a key that changes the text, and when the caret leaves the line.
-    void Tippen(const std::string& Neuer)
-    {
-        Undo_Taste = true;
-        if (!std::exchange(Undo_Begonnen, true)) {
-            Undo_Schritt_speichern();
-            Undo_Oben = Undo_Index;
-        }
-        Text.Text_Setzen(Neuer);
-        Text_Veraendert = true;
-    }
-    static void Verlassen()
-    {
-        if (!std::exchange(Text_Veraendert, false))
-            return;
-        Undo_Schritt_speichern();
-        Undo_Oben = Undo_Index;
-    }
+    void        Tippen(const std::string& Neuer) { Tippen_In(Text, Neuer); }
+    static void Verlassen() { Zeile_Verlassen(); }
 
     static std::array<bool, 4> Undo_Knoepfe()
     {
@@ -196,6 +181,19 @@ TEST_F(Stoppunkt_Test, In_a_session_undo_waits_for_its_end)
     EXPECT_EQ(Text.Inhalt, Ohne);
     MNU_Redo_Click();
     EXPECT_EQ(Text.Inhalt, Mit);
+}
+
+TEST_F(Stoppunkt_Test, A_key_in_a_session_leaves_undo_switched_off)
+{
+    ASSERT_TRUE(Programm("INC A\nSTOP\n"));
+    EXPECT_EQ(Undo_Knoepfe(), Keiner);
+    Taste_T Taste; // the first one of this text: it takes a snapshot
+    Taste.Zeichen = 'x';
+    Text_KeyDown(Taste);
+    EXPECT_TRUE(Undo_Begonnen);
+    EXPECT_EQ(Undo_Knoepfe(), Keiner);
+    Debug_Beenden();
+    EXPECT_TRUE(Undo_Knoepfe()[0]);
 }
 
 TEST_F(Stoppunkt_Test, With_undo_switched_off_the_buttons_stay_off)

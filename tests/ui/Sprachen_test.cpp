@@ -8,6 +8,7 @@
 #include "core/windows.h"
 #include "files/Datei_Zustand.h"
 #include "programmer/Geraete.h"
+#include "support/Beschriftungen.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
@@ -24,144 +25,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Paar_T {
-    const char* Name;
-    const char* D;
-    const char* E;
-    const char* In(const std::string& s) const { return s == "D" ? D : E; }
-};
-
-// clang-format off
-constexpr Paar_T Menue_Texte[] = {
-    {"MNU_Datei", "Datei", "File"},
-    {"MNU_Neu", "Neue Datei", "New"},
-    {"MNU_Load", "Öffnen", "Open"},
-    {"MNU_Load_Autosave", "Öffnen einer Autosave Datei", "Open Autosave File"},
-    {"MNU_Importdata", "Daten importieren", "Data import"},
-    {"MNU_Save", "Speichern", "Save"},
-    {"MNU_SaveAs", "Speichern unter", "Save As"},
-    {"MNU_vergleiche_hexdaten", "Vergleiche Hexdaten", "Compare Hexdata"},
-    {"MNU_PrintDialog", "Drucken", "Print"},
-    {"MNU_PrinterConfig", "Drucker einrichten", "Printer Setup"},
-    {"MNU_Ende", "Beenden", "Exit"},
-    {"MNU_Bearbeiten", "Bearbeiten", "Edit"},
-    {"MNU_Ausschneiden", "Markiertes Auschneiden", "Cut marked"},
-    {"MNU_Kopieren", "Markiertes Kopieren", "Copy marked"},
-    {"MNU_Einfügen", "Markiertes Einfügen", "Paste marked"},
-    {"MNU_Löschen", "Markiertes Löschen", "Delete marked"},
-    {"MNU_Ber_Kopieren", "Bereich Kopieren", "Copy area"},
-    {"MNU_Ber_setzen", "Bereich Setzen", "Set area"},
-    {"MNU_Ber_entfernen", "Bereich Entfernen", "Remove area"},
-    {"MNU_Adresse_direkt", "Adresse direkt anspringen", "Go to address"},
-    {"MNU_ErsteAdresse", "Springe zum ersten Byte <> FFh", "Go to the first byte <> FFh"},
-    {"MNU_LetzteAdresse", "Springe zum letzten Byte <> FFh", "Go to the last byte <> FFh"},
-    {"MNU_Debugger_Stoppunkt", "Debugger Stoppunkt setzen", "Insert Debugger Stop Point"},
-    {"MNU_Undo", "Rückgängig", "Undo"},
-    {"MNU_Redo", "Wiederholen", "Redo"},
-    {"MNU_Suche", "Suchen / Ersetzen", "Search / Replace"},
-    {"MNU_IC_Lesen", "IC Lesen", "Read IC"},
-    {"MNU_IC_Brennen", "IC Brennen", "Program IC"},
-    {"MNU_IC_Löschen", "IC Löschen", "Erase IC"},
-    {"MNU_IC_Prüfen", "IC Prüfen / Daten vergleichen", "Check IC / Compare data"},
-    {"MNU_IC_Typ", "IC wählen", "Choose IC"},
-    {"MNU_Tessel2_Hardware_Version", "Tessel2 programmer Hardware Version", "Tessel2 programmer Hardware Version"},
-    {"MNU_Ansicht", "Ansicht", "View"},
-    {"MNU_Bef", "MCS-51 Befehle", "MCS-51 instructions"},
-    {"MNU_Basic", "Basic Befehle", "Basic instructions"},
-    {"MNU_Not", "Notizen", "Notes"},
-    {"MNU_Spr", "Sprungmarken", "Jumpmarks"},
-    {"MNU_G_Einstellung", "Fenster Grundeinstellung", "Window standard apportionment"},
-    {"MNU_deb_Vorbereitung", "Daten vorbereiten", "Prepare debugger data"},
-    {"MNU_deb_Starten", "Starten", "Start execution"},
-    {"MNU_deb_Einzelschritt", "Einzelschritt ausführen", "Single step execution"},
-    {"MNU_deb_up", "Schritt nach oben (ohne auszuführen)", "Step upwards (without execution)"},
-    {"MNU_deb_down", "Schritt nach unten (ohne auszuführen)", "Step downwards (without execution)"},
-    {"MNU_deb_reset_adr", "Reset Programmadresse", "Reset program address"},
-    {"MNU_deb_reset", "Reset RAM/SFR/EXRAM", "Reset RAM/SFR/EXRAM"},
-    {"MNU_deb_beenden", "Debuggermodus beenden", "Quit debugger mode"},
-    {"MNU_jump_cursor", "Springe zum Cursor", "Jump to cursor"},
-    {"MNU_Optionen", "Optionen", "Options"},
-    {"MNU_Help", "Hilfe", "Help"},
-    {"MNU_Service", "Service", "Service"},
-    {"MNU_S_Quelmark", "Quelmark Homepage", "Quelmark homepage"},
-    {"MNU_S_Update", "Software Updates", "Software updates"},
-    {"MNU_S_Forum", "Diskussionsforum", "Discussion board"},
-    {"MNU_S_Mail", "E-Mail an Quelmark", "Email to Quelmark"},
-    {"MNU_S_Bücher", "Buch-Schnellsuche", "Book-Quickfinder"},
-    {"MNU_Deutsch", "Deutsch / German", "German / Deutsch"},
-    {"MNU_Englisch", "Englisch / English", "English / Englisch"},
-    {"MNU_IC", "Brenner", "Programmer"},
-};
-
-constexpr Paar_T Werkzeug_Texte[] = {
-    {"Neu", "Neue Datei", "New"},
-    {"Laden", "Datei Laden", "Load"},
-    {"Speichern", "Speichern", "Save"},
-    {"Drucken", "Drucken", "Print"},
-    {"Ausschneiden", "Ausschneiden", "Cut"},
-    {"Kopieren", "Kopieren", "Copy"},
-    {"Einfügen", "Einfügen", "Paste"},
-    {"Suchen", "Suchen/Ersetzen", "Search/Replace"},
-    {"Undo", "Rückgängig", "Undo"},
-    {"Redo", "Wiederholen", "Redo"},
-    {"EPLesen", "IC Lesen", "Read IC"},
-    {"EPBrennen", "IC Brennen", "Program IC"},
-    {"EPPruefen", "IC Prüfen / Daten vergleichen", "Check IC / Compare data"},
-    {"Umschalten", "Assemblieren", "Assemble"},
-    {"Assemblieren", "Daten für den Debugger vorbereiten", "Prepare debugger data"},
-    {"Starten", "Starten", "Start execution"},
-    {"Einzelschritt", "Einzelschritt ausführen", "Single step execution"},
-    {"Scroll_up", "Schritt nach oben (ohne auszuführen)", "Step upwards (without execution)"},
-    {"Scroll_down", "Schritt nach unten (ohne auszuführen)", "Step downwards (without execution)"},
-    {"Beenden", "Debuggermodus beenden", "Quit debugger mode"},
-};
-
-// Check boxes, option buttons and push buttons of the options.
-constexpr Paar_T Options_Knoepfe[] = {
-    {"B_OK", "OK", "OK"},
-    {"B_Üb", "Übernehmen", "Accept"},
-    {"B_Ab", "Abbrechen", "Cancel"},
-    {"Farbe", "Ändern", "Change"},
-    {"C_Brenner", "Programmiergerät vor dem Zugriff auf Funktion überprüfen", "Check programmer before access"},
-    {"C_IC", "Eingesetzten MC vor dem Zugriff überprüfen (Nur beim Tessel programmer)", "Check MC before access (only Tessel programmer)"},
-    {"C_IC_vor_B", "Lese die Daten des IC vor dem Anzeigen des Brenndialogs", "Read IC data before the programming dialog opens"},
-    {"C_IC_bei_B", "Überprüfe Daten des IC's während des Brennens", "Check the data on the IC during programming"},
-    {"C_IC_nach_B", "Überprüfe Daten des IC's nach dem Brennen", "Check the data on the IC after programming"},
-    {"No_FF", "Beim Brennvorgang keine FF's brennen", "Program no 'FF' on IC"},
-    {"Lade_Letzte", "Lade beim Programmstart die zuletzt bearbeitete Datei automatisch ein", "Load at program-start automatically the last used file into the editor."},
-    {"C_keine_TAB_SM", "Zeige keine Sprungmarken mit vorgestellten Tabs im SM-Fenster", "If there is a tab sign before a jump mark, don't display the jumpmark in the jumpmarks window"},
-    {"C_keine_US_SM", "Zeige keine Sprungmarken mit vorgestellten Unterstrich '_' im SM-Fenster", "If there is a underline sign '_' before a jump mark, don't display the jumpmark in the jumpmarks window"},
-    {"C_Erstelle_Listfile", "Erstelle automatisch Listfile beim Assemblieren (dateiname.l51)", "When assembling routine finished, create and save a list file under filename.l51"},
-    {"C_Auto_Binfile", "Erstelle automatisch Binärfile beim Assemblieren (dateiname.bin)", "When assembling routine finished, save automatically a binary file under filename.bin"},
-    {"C_Auto_Hexfile", "Erstelle automatisch Hexfile beim Assemblieren (dateiname.hex)", "When assembling routine finished, save automatically a hex file under filename.hex"},
-    {"C_Autosave_Ass", "AutoSave: Vor dem Assemblieren eine Kopie des Programmes speichern", "AutoSave: Bevor the assembler starts, save a copy of the program"},
-    {"C_Autosave_timed", "AutoSave: Nach 6 Minuten Arbeit eine Kopie des Programmes speichern", "AutoSave: Save every 6 minutes a copy of the program"},
-    {"O_Automatik_Bef_1", "Komplett grossschreiben 'MOV'", "All signs capitalized 'MOV'"},
-    {"O_Automatik_Bef_2", "Erster Buchstabe gross, Rest klein 'Mov'", "First sign capitalized, rest in lower case 'Mov'"},
-    {"O_Automatik_Bef_3", "So lassen, wie sie eingetippt werden 'mov'", "Don't change the text 'mov'"},
-    {"Zahlendeutung_1", "Dezimalzahlen (standard)", "Decimal values (standard)"},
-    {"Zahlendeutung_2", "Hexadezimalzahlen", "Hexadecimal values"},
-    {"O_MOV_ZQ_1", "Erst Ziel, dann Quelle (MOV Ziel, Quelle) (standard)", " MOV destination, source (standard)"},
-    {"O_MOV_ZQ_2", "Erst Quelle, dann Ziel (MOV Quelle, Ziel)", " MOV source, destination"},
-};
-
-constexpr Paar_T Options_Gruppen[] = {
-    {"O_Automatik_Bef", "Erkannte Befehle und Bezeichnungen im MC-Editor:", "Change text of identified instructions in the mc-editor:"},
-    {"Zahlendeutung", "Deute Zahlenangaben ohne Kennung als:", "Interpret values without additional trailing as:"},
-    {"O_MOV_ZQ", "Sondereinstellung für den Befehl MOV direct, direct:", "Special sequencing for 'MOV direct, direct:'"},
-};
-
-// Texts that stand in a label of their own.
-constexpr Paar_T Options_Schilder[] = {
-    {"T_Portadr", "Parallelport Adresse (Standart LPT1: 378h / LPT2: 278h)", "Parallelport address (standard LPT1: 378h / LPT2: 278h)"},
-    {"Schrift_1", "Schrifteinstellung MC-Editor Fenster:", "Font settings MC-Editor window:"},
-    {"Schrift_2", "Schrifteinstellung Sprungmarken Fenster:", "Font settings Jumpmarks:"},
-    {"Schrift_3", "Schrifteinstellung Notizen Fenster:", "Font settings Notes window:"},
-    {"Farbe", "Hintergrundfarbe MC-Editor  Fenster und Zusatzfenster", "Set background color for mc-editor and additionally windows"},
-    {"T_Undo_Max", "Schritte bei der 'Rückgängig' / 'Wiederholen' Funktion", "possibly steps at undo/redo function"},
-};
-// clang-format on
-
 // A caption without the mark of its underlined letter.
 std::string Ohne_Marke(const QString& Text)
 {
@@ -172,6 +35,31 @@ std::string Ohne_Marke(const QString& Text)
         Ziel += Text[i];
     }
     return Nach_Std(Ziel);
+}
+
+// The control shows its caption in the way of its kind.
+void Options_Text_Pruefen(const QWidget& w, const Options_Beschriftung& p, const std::string& Soll)
+{
+    const auto Feld = [&] {
+        auto* f = w.findChild<QWidget*>(QString::fromUtf8(p.Feld));
+        EXPECT_NE(f, nullptr) << p.Feld;
+        return f;
+    };
+    if (p.Art == Options_Art::Knopf) {
+        const auto* Knopf = qobject_cast<QAbstractButton*>(Feld());
+        ASSERT_NE(Knopf, nullptr) << p.Feld;
+        EXPECT_EQ(Nach_Std(Knopf->text()), Soll);
+    } else if (p.Art == Options_Art::Gruppe) {
+        const auto* Gruppe = qobject_cast<QGroupBox*>(Feld());
+        ASSERT_NE(Gruppe, nullptr) << p.Feld;
+        EXPECT_EQ(Nach_Std(Gruppe->title()), Soll);
+    } else if (p.Art == Options_Art::Schild) {
+        EXPECT_EQ(Nach_Std(Feld()->accessibleName()), Soll);
+        const auto Alle = w.findChildren<QLabel*>();
+        EXPECT_TRUE(std::any_of(Alle.begin(), Alle.end(), [&](const QLabel* l) {
+            return Nach_Std(l->text()) == Soll;
+        })) << Soll;
+    }
 }
 
 class Sprachen : public Haupt_Welt {
@@ -203,9 +91,9 @@ protected:
     }
     void Alle_Titel_Pruefen(const std::string& s)
     {
-        for (const Paar_T& p : Menue_Texte)
+        for (const Beschriftung& p : Menue_Texte)
             EXPECT_EQ(Titel(p.Name), p.In(s)) << p.Name;
-        for (const Paar_T& p : Werkzeug_Texte)
+        for (const Werkzeug_Beschriftung& p : Werkzeug_Texte)
             EXPECT_EQ(Nach_Std(Aktion((std::string("Toolbar_") + p.Name).c_str())->toolTip()),
                       p.In(s));
         EXPECT_EQ(Nach_Std(Suchen("Spr")->windowTitle()), s == "D" ? "Sprungmarken" : "Jumpmarks");
@@ -439,23 +327,8 @@ TEST_F(Sprachen, the_options_speak_the_language_of_the_moment)
             auto* Reiter = w->findChild<QTabWidget*>(QStringLiteral("SSTab"));
             EXPECT_EQ(Nach_Std(Reiter->tabText(0)), s == "D" ? "Oberfläche" : "Surface");
             EXPECT_EQ(Nach_Std(Reiter->tabText(1)), s == "D" ? "Programmiergerät" : "Programmer");
-            for (const Paar_T& p : Options_Knoepfe) {
-                auto* Knopf = w->findChild<QAbstractButton*>(QString::fromUtf8(p.Name));
-                ASSERT_NE(Knopf, nullptr) << p.Name;
-                EXPECT_EQ(Nach_Std(Knopf->text()), p.In(s));
-            }
-            for (const Paar_T& p : Options_Gruppen)
-                EXPECT_EQ(Nach_Std(w->findChild<QGroupBox*>(QString::fromUtf8(p.Name))->title()),
-                          p.In(s));
-            for (const Paar_T& p : Options_Schilder) {
-                EXPECT_EQ(
-                    Nach_Std(w->findChild<QWidget*>(QString::fromUtf8(p.Name))->accessibleName()),
-                    p.In(s));
-                const auto Alle = w->findChildren<QLabel*>();
-                EXPECT_TRUE(std::any_of(Alle.begin(), Alle.end(), [&](const QLabel* l) {
-                    return Nach_Std(l->text()) == p.In(s);
-                })) << p.In(s);
-            }
+            for (const Options_Beschriftung& p : Options_Texte)
+                Options_Text_Pruefen(*w, p, p.In(s));
             EXPECT_EQ(w->findChild<QLineEdit*>(QStringLiteral("T_Portadr"))->text(),
                       QStringLiteral("378h"));
             EXPECT_EQ(w->findChild<QLineEdit*>(QStringLiteral("T_Undo_Max"))->text(),
