@@ -137,7 +137,7 @@ void BM_Drucken(benchmark::State& s)
         Papier.In_PDF(Umgebung().Ordner.filePath(QStringLiteral("quelle.pdf")));
         Papier.Beginnen("quelle.asm");
         Text_Drucken();
-        Papier.Beenden();
+        Papier.Beenden(true);
     }
     Plattform.Druck = Vorher;
 }

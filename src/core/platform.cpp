@@ -78,9 +78,10 @@ public:
     bool        Beginnen(std::string_view) override { return false; }
     void        Schrift(const Schrift_T&) override {}
     int         Zeilen_Je_Seite() const override { return 1; }
-    void        Zeile(std::string_view, std::span<const Farbstelle_T>) override {}
-    void        Neue_Seite() override {}
-    void        Beenden() override {}
+    int         Zeichen_Je_Zeile() const override { return 1; }
+    bool        Zeile(std::string_view, std::span<const Farbstelle_T>) override { return true; }
+    bool        Neue_Seite() override { return true; }
+    bool        Beenden(bool) override { return true; }
     std::string Datum() const override { return {}; }
     std::string Uhrzeit() const override { return {}; }
 };

@@ -1,28 +1,14 @@
 // A text with the look of its characters, and what a control of plain text makes of it.
 #include "core/rich_text.h"
 
+#include "core/utf8.h"
+
 #include <algorithm>
 
 namespace varnholt {
 namespace {
 
-// Positions of a text control that a character takes, by the first byte of its UTF-8: two beyond
-// 16 bits, one else, none for the bytes behind the first.
-constexpr int Stellen_Von(char Byte)
-{
-    const auto b = static_cast<unsigned char>(Byte);
-    return b >= 0xF0 ? 2 : (b & 0xC0) == 0x80 ? 0 : 1;
-}
-
 constexpr std::int64_t Zeilen_Ende_Laenge = 2; // CR LF
-
-std::int64_t Stellen_Im(std::string_view Text)
-{
-    std::int64_t n = 0;
-    for (const char c : Text)
-        n += Stellen_Von(c);
-    return n;
-}
 
 // Goes along a text and its colours, both from the beginning on.
 class Farb_Lauf {

@@ -3,6 +3,7 @@
 
 #include "core/codepage.h"
 #include "core/shared_state.h"
+#include "core/utf8.h"
 
 #include <algorithm>
 #include <iterator>
@@ -40,8 +41,6 @@ const Endung_T* Endung_Suchen(std::string_view Name, std::size_t Ohne)
     });
     return p == std::end(Endungen) ? nullptr : p;
 }
-
-bool Ist_Folgebyte(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 std::size_t Bytes_Der_Letzten(std::string_view Name, int Anzahl)
 {

@@ -8,6 +8,7 @@
 #include "core/platform.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
+#include "core/utf8.h"
 #include "editors/Quelltext_Sperre.h"
 
 #include <fmt/format.h>
@@ -23,6 +24,10 @@ constexpr std::size_t Pfad_Breite   = 53; // of them for the path
 constexpr std::size_t Seiten_Breite = 6;
 constexpr int         Kopf_Einzug   = 10;
 constexpr int         Fuss_Einzug   = 7;
+constexpr int         Pfad_Einzug   = 12; // in the footer of a page of text
+
+// The widest line of a page: blanks, both addresses, 16 bytes, 16 characters.
+constexpr int Hex_Zeichen_Je_Zeile = 7 + 6 + 2 + 6 + 1 + 16 * 3 + 2 + 16;
 
 constexpr std::string_view Spalten_Kopf =
     "Dez.    Hex.    .0..1..2..3..4..5..6..7..8..9..A..B..C..D..E..F  ASCII           ";
@@ -30,12 +35,10 @@ constexpr std::string_view Spalten_Kopf =
 // Bytes that print as a point: a printer would take them for a command, or show nothing.
 constexpr std::uint8_t Als_Punkt[] = {0, 2, 9, 10, 13, 15, 18, 32};
 
-bool Setzt_Zeichen_Fort(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
-
 std::size_t Zeichen_Anzahl(std::string_view Text)
 {
     return static_cast<std::size_t>(
-        std::count_if(Text.begin(), Text.end(), [](char c) { return !Setzt_Zeichen_Fort(c); }));
+        std::count_if(Text.begin(), Text.end(), [](char c) { return !Ist_Folgebyte(c); }));
 }
 
 // At most that many characters from the end, where a path says most.
@@ -43,7 +46,7 @@ std::string_view Ende_Von(std::string_view Text, std::size_t Hoechstens)
 {
     for (std::size_t n = Zeichen_Anzahl(Text); n > Hoechstens; --n) {
         Text.remove_prefix(1);
-        while (!Text.empty() && Setzt_Zeichen_Fort(Text.front()))
+        while (!Text.empty() && Ist_Folgebyte(Text.front()))
             Text.remove_prefix(1);
     }
     return Text;
@@ -94,7 +97,7 @@ std::string Hex_Druckzeile(std::int32_t Adresse)
 std::vector<std::string> Text_Fuss(const Druck_Kopf& Kopf, int Seite)
 {
     const std::string Nummer = std::to_string(Seite);
-    return {Leer(12) + Kopf.Pfad,
+    return {Leer(Pfad_Einzug) + Kopf.Pfad,
             In_Sprache(
                 {"Datum: " + Kopf.Datum + "     Seite: " + Nummer + "     Zeit: " + Kopf.Uhrzeit,
                  "Date: " + Kopf.Datum + "     Page: " + Nummer + "     Time: " + Kopf.Uhrzeit})};
@@ -107,7 +110,11 @@ Druck_Kopf Kopf_Jetzt()
     return {Datei_Name, Plattform.Druck->Datum(), Plattform.Druck->Uhrzeit()};
 }
 
-void Drucken(std::string_view Zeile) { Plattform.Druck->Zeile(Zeile, {}); }
+void Drucken(std::string_view Zeile, std::span<const Farbstelle_T> Farben = {})
+{
+    if (!Plattform.Druck->Zeile(Zeile, Farben))
+        ++Druckauftrag.Zu_Breit;
+}
 void Drucken(const std::vector<std::string>& Zeilen)
 {
     for (const std::string& z : Zeilen)
@@ -121,8 +128,6 @@ void Leerzeilen_Drucken(int Anzahl)
 
 void Hex_Kopf_Drucken(const Druck_Kopf& Kopf, int Seite)
 {
-    if (Seite > 1)
-        Plattform.Druck->Neue_Seite();
     const std::vector<std::string> Rahmen = Hex_Rahmen(Kopf, Seite, Kopf_Einzug);
     Drucken("");
     Drucken(Rahmen);
@@ -133,18 +138,58 @@ void Hex_Kopf_Drucken(const Druck_Kopf& Kopf, int Seite)
 
 constexpr int Hex_Seite_Zeilen = 9 + Hex_Fuss_Zeile + 3; // header, rows, footer
 
+bool Hex_Seite_Passt()
+{
+    return Plattform.Druck->Zeilen_Je_Seite() >= Hex_Seite_Zeilen &&
+           Plattform.Druck->Zeichen_Je_Zeile() >= Hex_Zeichen_Je_Zeile;
+}
+
 // Courier New 10; smaller where the sheet doesn't hold the page otherwise.
 void Hex_Schrift_Setzen()
 {
-    constexpr int Kleinste = 5;
-    for (int Groesse = 10; Groesse >= Kleinste; --Groesse) {
-        Schrift_T s;
-        s.Name    = "Courier New";
-        s.Groesse = Groesse;
+    constexpr double Kleinste = 3;
+    constexpr double Schritt  = 0.5;
+    Schrift_T        s;
+    s.Name = "Courier New";
+    for (s.Groesse = 10; s.Groesse >= Kleinste; s.Groesse -= Schritt) {
         Plattform.Druck->Schrift(s);
-        if (Plattform.Druck->Zeilen_Je_Seite() >= Hex_Seite_Zeilen)
+        if (Hex_Seite_Passt())
             return;
     }
+}
+
+// The `status` dialog, and what it tells: a part of a whole is done. False: the user has given up.
+class Fortgang {
+public:
+    explicit Fortgang(const Text_Paar& Text)
+    {
+        Abbruch = false;
+        Plattform.Status->Oeffnen();
+        Plattform.Status->Text(In_Sprache(Text));
+    }
+    ~Fortgang() { Plattform.Status->Schliessen(); }
+    Fortgang(const Fortgang&)            = delete;
+    Fortgang& operator=(const Fortgang&) = delete;
+
+    bool Weiter(std::size_t Teil, std::size_t Ganzes)
+    {
+        const int Neu = static_cast<int>(Teil * 100 / std::max<std::size_t>(Ganzes, 1));
+        if (Neu > Prozent) {
+            Prozent = Neu;
+            Plattform.Status->ProgBar(Prozent);
+        }
+        Plattform.Ereignisse->Eine_Runde();
+        return !Abbruch;
+    }
+
+private:
+    int Prozent = 0;
+};
+
+void Hex_Zeilen_Drucken(int Von, int Bis)
+{
+    for (int i = Von; i < Bis; ++i)
+        Drucken(Hex_Druckzeile(i * 16));
 }
 
 } // namespace
@@ -152,21 +197,35 @@ void Hex_Schrift_Setzen()
 void Hex_Drucken()
 {
     const int        Zeilen = (Letztes_Byte() + 16) / 16;
+    const int        Seiten = std::max(1, (Zeilen + Hex_Zeilen_Je_Seite - 1) / Hex_Zeilen_Je_Seite);
     const Druck_Kopf Kopf   = Kopf_Jetzt();
-    int              Seite  = 0;
-    for (int i = 0; i < std::max(Zeilen, 1); ++i) {
-        if (i % Hex_Zeilen_Je_Seite == 0)
-            Hex_Kopf_Drucken(Kopf, ++Seite);
-        if (i < Zeilen)
-            Drucken(Hex_Druckzeile(i * 16));
+    Fortgang         Lauf({" Hexdaten werden gedruckt...", " Printing hex data..."});
+    Druckauftrag.Ganz = false;
+    for (int Seite = 1; Seite <= Seiten; ++Seite) {
+        const int Von = (Seite - 1) * Hex_Zeilen_Je_Seite;
+        if (!Lauf.Weiter(static_cast<std::size_t>(Von), static_cast<std::size_t>(Zeilen)) ||
+            (Seite > 1 && !Plattform.Druck->Neue_Seite()))
+            return;
+        Hex_Kopf_Drucken(Kopf, Seite);
+        Hex_Zeilen_Drucken(Von, std::min(Zeilen, Von + Hex_Zeilen_Je_Seite));
     }
-    Leerzeilen_Drucken(Hex_Fuss_Zeile - (Zeilen - (Seite - 1) * Hex_Zeilen_Je_Seite));
-    Drucken(Hex_Rahmen(Kopf, Seite, Fuss_Einzug));
+    Leerzeilen_Drucken(Hex_Fuss_Zeile - (Zeilen - (Seiten - 1) * Hex_Zeilen_Je_Seite));
+    Drucken(Hex_Rahmen(Kopf, Seiten, Fuss_Einzug));
+    Druckauftrag.Ganz = true;
 }
 
 // --- the source text ---
 
 namespace {
+
+// What stands on the pages; of a path that is too long for the sheet its end.
+Druck_Kopf Textkopf_Jetzt()
+{
+    Druck_Kopf Kopf  = Kopf_Jetzt();
+    const int  Platz = std::max(Plattform.Druck->Zeichen_Je_Zeile() - Pfad_Einzug, 1);
+    Kopf.Pfad        = Ende_Von(Kopf.Pfad, static_cast<std::size_t>(Platz));
+    return Kopf;
+}
 
 // Lines, their colours, and where the page stands.
 class Textdruck {
@@ -175,23 +234,22 @@ public:
         : Text(std::move(Text_UTF8)), Farben(std::move(Alle_Farben))
     {
     }
-    void Laufen();
+    bool Laufen(Fortgang& Lauf); // false: given up, or the printer has failed
 
 private:
-    bool Zeile_Drucken(std::string_view Zeile);
+    bool Platz_Schaffen();
+    void Zeile_Drucken(std::string_view Inhalt);
     void Seite_Schliessen();
-    void Fortschritt(std::size_t Stelle);
 
     std::vector<Farbstelle_T> Farben_Der_Zeile(std::int64_t Anfang, std::int64_t Laenge);
 
     std::string               Text;
     std::vector<Farbstelle_T> Farben;
-    Druck_Kopf                Kopf        = Kopf_Jetzt();
+    Druck_Kopf                Kopf        = Textkopf_Jetzt();
     int                       Auf_Seite   = std::max(Plattform.Druck->Zeilen_Je_Seite() - 2, 1);
     int                       Seite       = 1;
     int                       Zeile       = 0; // on the page
-    int                       Prozent     = 0;
-    std::int64_t              Zeichen     = 0; // of the text, in front of the line
+    std::int64_t              Stelle      = 0; // in the text control, in front of the line
     std::size_t               Farbe_Jetzt = 0;
 };
 
@@ -220,40 +278,39 @@ void Textdruck::Seite_Schliessen()
     Drucken(Text_Fuss(Kopf, Seite));
 }
 
-void Textdruck::Fortschritt(std::size_t Stelle)
+// A full page makes room for the next line.
+bool Textdruck::Platz_Schaffen()
 {
-    const int Neu = static_cast<int>(Stelle * 100 / std::max<std::size_t>(Text.size(), 1));
-    if (Neu > Prozent) {
-        Prozent = Neu;
-        Plattform.Status->ProgBar(Prozent);
-    }
-    Plattform.Ereignisse->Eine_Runde();
+    if (Zeile < Auf_Seite)
+        return true;
+    Seite_Schliessen();
+    ++Seite;
+    Zeile = 0;
+    return Plattform.Druck->Neue_Seite();
 }
 
-void Textdruck::Laufen()
+void Textdruck::Zeile_Drucken(std::string_view Inhalt)
+{
+    const std::int64_t Laenge = Stellen_Im(Inhalt);
+    Drucken(Inhalt, Farben_Der_Zeile(Stelle, Laenge));
+    ++Zeile;
+    Stelle += Laenge + 2;
+}
+
+bool Textdruck::Laufen(Fortgang& Lauf)
 {
     std::size_t Anfang = 0;
     while (Anfang <= Text.size()) {
         const std::size_t Ende = std::min(Text.find("\r\n", Anfang), Text.size());
         if (Ende == Text.size() && Ende == Anfang && Anfang > 0)
             break; // a line end closes the last line, no empty one follows
-        Fortschritt(Anfang);
-        if (Abbruch)
-            return;
-        if (Zeile == Auf_Seite) {
-            Seite_Schliessen();
-            Plattform.Druck->Neue_Seite();
-            ++Seite;
-            Zeile = 0;
-        }
-        const std::string_view Diese  = std::string_view(Text).substr(Anfang, Ende - Anfang);
-        const auto             Laenge = static_cast<std::int64_t>(Zeichen_Anzahl(Diese));
-        Plattform.Druck->Zeile(Diese, Farben_Der_Zeile(Zeichen, Laenge));
-        ++Zeile;
-        Zeichen += Laenge + 2;
+        if (!Lauf.Weiter(Anfang, Text.size()) || !Platz_Schaffen())
+            return false;
+        Zeile_Drucken(std::string_view(Text).substr(Anfang, Ende - Anfang));
         Anfang = Ende + 2;
     }
     Seite_Schliessen();
+    return true;
 }
 
 Textdruck Textdruck_Vorbereiten()
@@ -279,32 +336,55 @@ Schrift_T Schrift_Des_Textes()
 void Text_Drucken()
 {
     const Edit_Ruhe Ruhe;
-    Abbruch = false;
-    Plattform.Status->Oeffnen();
-    Plattform.Status->Text(In_Sprache({" Text wird gedruckt...", " Printing text..."}));
+    Fortgang        Lauf({" Text wird gedruckt...", " Printing text..."});
     Plattform.Druck->Schrift(Schrift_Des_Textes());
-    Textdruck_Vorbereiten().Laufen();
-    Plattform.Status->Schliessen();
+    Druckauftrag.Ganz = Textdruck_Vorbereiten().Laufen(Lauf);
 }
+
+// --- the commands ---
+
+namespace {
+
+// What a printout that didn't fail lacks.
+void Mangel_Hinweisen()
+{
+    const std::string n = std::to_string(Druckauftrag.Zu_Breit);
+    if (!Druckauftrag.Ganz)
+        Plattform.Box->Hinweisen(
+            In_Sprache({"Das Drucken wurde abgebrochen.", "Printing was cancelled."}));
+    else if (Druckauftrag.Zu_Breit > 0)
+        Plattform.Box->Hinweisen(In_Sprache(
+            {"Gedruckt. Für das Papier zu breite Zeilen, deren Ende fehlen kann: " + n + ".",
+             "Printed. Lines too wide for the paper, whose ends may be missing: " + n + "."}));
+}
+
+void Dokument_Drucken()
+{
+    Druckauftrag.Ganz     = false;
+    Druckauftrag.Zu_Breit = 0;
+    Hex_Schrift_Setzen();
+    if (Menue("MNU_Hex").Haken)
+        Hex_Drucken();
+    else if (Menue("MNU_MC").Haken)
+        Text_Drucken();
+}
+
+} // namespace
 
 void MNU_PrinterConfig_Click() { Plattform.Druck->Einrichten(); }
 
 void MNU_PrintDialog_Click()
 {
-    const bool  Text = Menue("MNU_MC").Haken;
     Druckwahl_T Wahl;
-    Wahl.Markierung_Anbieten = Text && Plattform.Edit->Auswahl().Laenge > 0;
+    Wahl.Markierung_Anbieten = Menue("MNU_MC").Haken && Plattform.Edit->Auswahl().Laenge > 0;
     if (!Plattform.Druck->Waehlen(Wahl))
         return;
     Druckauftrag.Markierung = Wahl.Markierung && Wahl.Markierung_Anbieten;
     if (!Plattform.Druck->Beginnen(Datei_Name))
         return;
-    Hex_Schrift_Setzen();
-    if (Menue("MNU_Hex").Haken)
-        Hex_Drucken();
-    else if (Text)
-        Text_Drucken();
-    Plattform.Druck->Beenden();
+    Dokument_Drucken();
+    if (Plattform.Druck->Beenden(Druckauftrag.Ganz))
+        Mangel_Hinweisen();
 }
 
 } // namespace varnholt

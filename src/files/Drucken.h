@@ -26,12 +26,16 @@ std::string Hex_Druckzeile(std::int32_t Adresse);
 // The two lines at the end of a page of text.
 std::vector<std::string> Text_Fuss(const Druck_Kopf& Kopf, int Seite);
 
-void Hex_Drucken();  // reads: Hex_Daten, Datei_Name
-void Text_Drucken(); // reads: Edit, the font of Edit, Druckauftrag   sets: Abbruch
+// Both stop between two pages, or two lines of text, when the user gives up, and when the printer
+// fails.
+void Hex_Drucken();  // reads: Hex_Daten, Datei_Name   sets: Abbruch, Druckauftrag
+void Text_Drucken(); // reads: Edit, the font of Edit, Druckauftrag   sets: Abbruch, Druckauftrag
 
-// The last choice of the print dialog.
+// The last choice of the print dialog, and how far its document came.
 inline struct Druckauftrag_T {
     bool Markierung = false; // only the selection
+    bool Ganz       = false; // the last line has gone to the printer
+    int  Zu_Breit   = 0;     // lines that didn't fit between the margins
 } Druckauftrag;
 
 } // namespace varnholt

@@ -1,5 +1,6 @@
 // Writes RTF, and brings a text into the form that a file can hold.
 #include "core/codepage.h"
+#include "core/utf8.h"
 #include "files/Rtf.h"
 #include "files/Rtf_Tafeln.h"
 #include "files/Rtf_Zeichenfolge.h"
@@ -228,7 +229,7 @@ Absatz_Bild_T Absatz_Bild_Normal(const Absatz_Bild_T& b)
 std::string UTF8_Anfang(std::string_view Text, std::size_t Hoechstens)
 {
     std::size_t n = std::min(Text.size(), Hoechstens);
-    while (n > 0 && n < Text.size() && (static_cast<unsigned char>(Text[n]) & 0xC0) == 0x80)
+    while (n > 0 && n < Text.size() && Ist_Folgebyte(Text[n]))
         --n;
     return std::string(Text.substr(0, n));
 }

@@ -1,4 +1,5 @@
-// The print dialog: which printer, PDF file or preview, how many copies, all or the selection.
+// The print dialog: which printer or a PDF file, how many copies, all or the selection; and whether
+// a preview comes first.
 #pragma once
 
 #include <QDialog>
@@ -6,6 +7,7 @@
 class QComboBox;
 class QRadioButton;
 class QSpinBox;
+class QVBoxLayout;
 
 namespace varnholt {
 
@@ -13,22 +15,23 @@ class Druck_Dialog : public QDialog {
     Q_OBJECT
 
 public:
-    enum class Ziel { Drucker, PDF, Vorschau };
-
     Druck_Dialog(bool Markierung_Anbieten, QWidget* Eltern);
 
-    Ziel    Wohin() const { return Gewaehlt; }
+    bool    Vorschau_Gewaehlt() const { return Vorschau; }
     QString Drucker_Name() const; // empty: PDF
-    int     Kopien() const;
+    int     Kopien() const;       // a PDF file has one
     bool    Nur_Markierung() const;
 
 private:
-    void Fertig(bool Vorschau);
+    void Felder_Bauen(bool Markierung_Anbieten);
+    void Drucker_Auflisten();
+    void Knoepfe_Bauen();
 
+    QVBoxLayout*  Rahmen     = nullptr;
     QComboBox*    Geraete    = nullptr;
     QSpinBox*     Anzahl     = nullptr;
     QRadioButton* Markierung = nullptr;
-    Ziel          Gewaehlt   = Ziel::Drucker;
+    bool          Vorschau   = false;
 };
 
 } // namespace varnholt

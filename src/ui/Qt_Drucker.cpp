@@ -3,14 +3,21 @@
 
 #include "core/messages.h"
 #include "core/settings.h"
+#include "core/shared_state.h"
+#include "files/Dateizugriff.h"
+#include "ui/Druck_Dialog.h"
+#include "ui/Druck_Vorschau.h"
 #include "ui/Qt_Text.h"
 
+#include <QBuffer>
 #include <QDate>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPageSetupDialog>
 #include <QPainter>
-#include <QPrintPreviewDialog>
+#include <QPdfWriter>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QTime>
 
 #include <algorithm>
@@ -23,34 +30,89 @@ constexpr int Tabulator  = 8; // characters
 constexpr int PDF_Filter = 1;
 
 // Control characters have no picture on paper.
+bool Ist_Steuerzeichen(QChar c)
+{
+    return (c.unicode() < 0x20 && c != u'\t') || (c.unicode() >= 0x7F && c.unicode() < 0xA0);
+}
+
 QString Druckbar(QString Text)
 {
-    for (QChar& c : Text)
-        if (c.unicode() < 32 && c != u'\t')
-            c = u' ';
+    std::replace_if(Text.begin(), Text.end(), Ist_Steuerzeichen, QChar(u' '));
     return Text;
 }
 
-// The place behind a piece that begins at x; tabs go to the next stop.
-double Stueck_Malen(QPainter& Pinsel, const QString& Text, double x, double y)
+// The pieces of a text between its tabs, each with its place from x on; the place behind the last.
+template <class Tun>
+double Je_Stueck(const QString& Text, const QFontMetricsF& Mass, double x, Tun&& Nimm)
 {
-    const QFontMetricsF Mass(Pinsel.font(), Pinsel.device());
-    const double        Stop  = Tabulator * Mass.horizontalAdvance(u' ');
-    const QStringList   Teile = Text.split(u'\t');
+    const double      Stop  = Tabulator * Mass.horizontalAdvance(u' ');
+    const QStringList Teile = Text.split(u'\t');
     for (qsizetype i = 0; i < Teile.size(); ++i) {
         if (i > 0)
             x = (std::floor(x / Stop) + 1) * Stop;
-        Pinsel.drawText(QPointF(x, y), Teile[i]);
+        Nimm(x, Teile[i]);
         x += Mass.horizontalAdvance(Teile[i]);
     }
     return x;
 }
 
+double Breite_Von(const QString& Text, const QFontMetricsF& Mass)
+{
+    return Je_Stueck(Text, Mass, 0, [](double, const QString&) {});
+}
+
+void Beginn_Fehler_Melden()
+{
+    Melden({"Der Druck konnte nicht begonnen werden.", "Printing could not be started."},
+           {},
+           Knoepfe::Ok,
+           Symbol::Warnung);
+}
+
+void Druckfehler_Melden()
+{
+    Melden({"Der Drucker hat nicht alle Seiten angenommen. Der Ausdruck ist unvollständig.",
+            "The printer didn't take all pages. The printout is incomplete."},
+           {},
+           Knoepfe::Ok,
+           Symbol::Warnung);
+}
+
+bool Ersetzen_Erlaubt(const std::string& Name)
+{
+    if (!QFileInfo::exists(Qt_Text(Name)))
+        return true;
+    Antwort = Antwort_Ja;
+    Melden({"Die Datei " + Name + " gibt es schon. Soll sie ersetzt werden?",
+            "The file " + Name + " exists already. Replace it?"},
+           {},
+           Knoepfe::Ja_Nein,
+           Symbol::Frage);
+    return Antwort == Antwort_Ja;
+}
+
+// Proposed is the document's name.
+Dateiwahl_T PDF_Wahl()
+{
+    Dateiwahl_T Wahl{.Filter = "PDF (*.pdf)|*.pdf", .Filter_Nummer = PDF_Filter, .Speichern = true};
+    if (Datei_Name.empty())
+        return Wahl;
+    const QFileInfo Dokument(Qt_Text(Datei_Name));
+    Wahl.Verzeichnis = Nach_Std(Dokument.path());
+    Wahl.Name        = Nach_Std(Dokument.completeBaseName()) + ".pdf";
+    return Wahl;
+}
+
 } // namespace
 
 Qt_Drucker::Qt_Drucker(QWidget* Eltern) : Fenster(Eltern) {}
+Qt_Drucker::Qt_Drucker(QWidget* Eltern, std::unique_ptr<QPrinter> Anderes_Geraet)
+    : Fenster(Eltern), Druck_Geraet(std::move(Anderes_Geraet))
+{
+}
 Qt_Drucker::~Qt_Drucker() = default;
 
+// Built late: it asks the system for its printers, which takes its time.
 QPrinter& Qt_Drucker::Geraet()
 {
     if (!Druck_Geraet) {
@@ -61,6 +123,10 @@ QPrinter& Qt_Drucker::Geraet()
     return *Druck_Geraet;
 }
 
+QRectF Qt_Drucker::Druckbereich() const { return Druck_Geraet->pageRect(QPrinter::DevicePixel); }
+
+// --- where it goes ---
+
 void Qt_Drucker::Einrichten()
 {
     QPageSetupDialog Dialog(&Geraet(), Fenster);
@@ -69,19 +135,24 @@ void Qt_Drucker::Einrichten()
 
 bool Qt_Drucker::PDF_Datei_Waehlen()
 {
-    Dateiwahl_T Wahl{.Filter = "PDF (*.pdf)|*.pdf", .Filter_Nummer = PDF_Filter, .Speichern = true};
-    Plattform.Dialog->Datei_Waehlen(Wahl);
-    if (Wahl.Name.empty())
-        return false;
-    In_PDF(Qt_Text(Wahl.Name));
-    return true;
+    for (;;) {
+        Dateiwahl_T Wahl = PDF_Wahl();
+        Plattform.Dialog->Datei_Waehlen(Wahl);
+        if (Wahl.Name.empty())
+            return false;
+        PDF_Datei = Qt_Text(Wahl.Name);
+        if (Ersetzen_Erlaubt(Wahl.Name))
+            return true;
+    }
 }
+
+bool Qt_Drucker::Ziel_Bestimmen() { return !Drucker_Name.isEmpty() || PDF_Datei_Waehlen(); }
 
 void Qt_Drucker::In_PDF(const QString& Name)
 {
-    Wohin = Druck_Dialog::Ziel::PDF;
-    Geraet().setOutputFormat(QPrinter::PdfFormat);
-    Geraet().setOutputFileName(Name);
+    Drucker_Name.clear();
+    PDF_Datei = Name;
+    Vorschau  = false;
 }
 
 bool Qt_Drucker::Waehlen(Druckwahl_T& Wahl)
@@ -90,34 +161,61 @@ bool Qt_Drucker::Waehlen(Druckwahl_T& Wahl)
     if (Dialog.exec() != QDialog::Accepted)
         return false;
     Wahl.Markierung = Dialog.Nur_Markierung();
-    Wohin           = Dialog.Wohin();
+    Drucker_Name    = Dialog.Drucker_Name();
+    Vorschau        = Dialog.Vorschau_Gewaehlt();
     Geraet().setCopyCount(Dialog.Kopien());
-    if (Wohin == Druck_Dialog::Ziel::PDF)
-        return PDF_Datei_Waehlen();
-    if (!Dialog.Drucker_Name().isEmpty()) {
-        Geraet().setOutputFileName(QString());
-        Geraet().setOutputFormat(QPrinter::NativeFormat);
-        Geraet().setPrinterName(Dialog.Drucker_Name());
-    }
-    return true;
+    return Vorschau || Ziel_Bestimmen();
 }
 
-bool Qt_Drucker::Beginnen(std::string_view Titel)
+bool Qt_Drucker::Drucker_Einstellen(const QString& Name)
 {
-    Hoehe = 0;
-    Geraet().setDocName(Qt_Text(Titel));
+    if (QPrinterInfo::printerInfo(Name).isNull())
+        return false;
+    Geraet().setOutputFormat(QPrinter::NativeFormat);
+    Geraet().setPrinterName(Name);
+    return Geraet().isValid();
+}
+
+// --- a document ---
+
+bool Qt_Drucker::Beginnen(std::string_view Name)
+{
+    Hoehe       = 0;
+    Gescheitert = false;
+    Titel       = QFileInfo(Qt_Text(Name)).fileName();
     Seiten.assign(1, {});
-    if (Wohin == Druck_Dialog::Ziel::Vorschau)
-        return true;
+    if (!Drucker_Name.isEmpty() && !Drucker_Einstellen(Drucker_Name)) {
+        Beginn_Fehler_Melden();
+        return false;
+    }
+    Blatt_Groesse = Geraet().pageLayout().paintRectPoints().size();
+    return Vorschau || Blatt_Oeffnen();
+}
+
+bool Qt_Drucker::Blatt_Oeffnen()
+{
+    Geraet().setDocName(Titel);
+    Blatt = &Geraet();
+    PDF_Blatt.reset();
+    if (Drucker_Name.isEmpty())
+        PDF_Blatt_Bauen();
     Maler = std::make_unique<QPainter>();
-    if (Maler->begin(&Geraet()))
+    if (Maler->begin(Blatt))
         return true;
     Maler.reset();
-    Melden({"Der Druck konnte nicht begonnen werden.", "Printing could not be started."},
-           {},
-           Knoepfe::Ok,
-           Symbol::Warnung);
+    Beginn_Fehler_Melden();
     return false;
+}
+
+void Qt_Drucker::PDF_Blatt_Bauen()
+{
+    PDF_Puffer = std::make_unique<QBuffer>();
+    PDF_Puffer->open(QIODevice::WriteOnly);
+    PDF_Blatt = std::make_unique<QPdfWriter>(PDF_Puffer.get());
+    PDF_Blatt->setTitle(Titel);
+    PDF_Blatt->setResolution(Geraet().resolution());
+    PDF_Blatt->setPageLayout(Geraet().pageLayout());
+    Blatt = PDF_Blatt.get();
 }
 
 void Qt_Drucker::Schrift(const Schrift_T& Neue)
@@ -126,27 +224,33 @@ void Qt_Drucker::Schrift(const Schrift_T& Neue)
     Jetzige_Schrift.setStyleHint(QFont::Monospace);
 }
 
-double Qt_Drucker::Zeilenhoehe(const QFont& Welche) const
-{
-    return QFontMetricsF(Welche, Druck_Geraet.get()).lineSpacing();
-}
-
 int Qt_Drucker::Zeilen_Je_Seite() const
 {
-    const QRectF Blatt = Druck_Geraet->pageRect(QPrinter::DevicePixel);
-    return std::max(1, static_cast<int>(Blatt.height() / Zeilenhoehe(Jetzige_Schrift)));
+    const QFontMetricsF Mass(Jetzige_Schrift, Druck_Geraet.get());
+    return std::max(1, static_cast<int>(Druckbereich().height() / Mass.lineSpacing()));
 }
 
-void Qt_Drucker::Zeile_Malen(QPainter& Pinsel, const Zeile_T& z, double y) const
+int Qt_Drucker::Zeichen_Je_Zeile() const
+{
+    const QFontMetricsF Mass(Jetzige_Schrift, Druck_Geraet.get());
+    return std::max(1, static_cast<int>(Druckbereich().width() / Mass.horizontalAdvance(u'W')));
+}
+
+// The place behind the line.
+double Qt_Drucker::Zeile_Malen(QPainter& Pinsel, const Zeile_T& z, double y)
 {
     Pinsel.setFont(z.Schrift);
-    const double Grundlinie = y + QFontMetricsF(z.Schrift, Pinsel.device()).ascent();
-    double       x          = 0;
-    qsizetype    Stelle     = 0;
-    const auto   Bis        = [&](qsizetype Ende, const QColor& Farbe) {
+    const QFontMetricsF Mass(z.Schrift, Pinsel.device());
+    const double        Grundlinie = y + Mass.ascent();
+    double              x          = 0;
+    qsizetype           Stelle     = 0;
+    const auto          Bis        = [&](qsizetype Ende, const QColor& Farbe) {
         Ende = std::clamp(Ende, Stelle, z.Text.size());
         Pinsel.setPen(Farbe);
-        x      = Stueck_Malen(Pinsel, z.Text.mid(Stelle, Ende - Stelle), x, Grundlinie);
+        x = Je_Stueck(
+            z.Text.mid(Stelle, Ende - Stelle), Mass, x, [&](double Von, const QString& t) {
+                Pinsel.drawText(QPointF(Von, Grundlinie), t);
+            });
         Stelle = Ende;
     };
     for (const Farbstelle_T& f : z.Farben) {
@@ -154,78 +258,116 @@ void Qt_Drucker::Zeile_Malen(QPainter& Pinsel, const Zeile_T& z, double y) const
         Bis(static_cast<qsizetype>(f.Anfang + f.Laenge), Qt_Farbe(f.Farbe));
     }
     Bis(z.Text.size(), Qt::black);
+    return x;
 }
 
-void Qt_Drucker::Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben)
+bool Qt_Drucker::Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben)
 {
-    Zeile_T z{Druckbar(Qt_Text(Text)), {Farben.begin(), Farben.end()}, Jetzige_Schrift};
-    if (!Maler) {
+    const QFontMetricsF Mass(Jetzige_Schrift, Druck_Geraet.get());
+    Zeile_T             z{Druckbar(Qt_Text(Text)), {Farben.begin(), Farben.end()}, Jetzige_Schrift};
+    double              Breite = 0;
+    if (Maler) {
+        Breite = Zeile_Malen(*Maler, z, Hoehe);
+        Hoehe += Mass.lineSpacing();
+    } else {
+        Breite = Breite_Von(z.Text, Mass);
         Seiten.back().push_back(std::move(z));
-        return;
     }
-    Zeile_Malen(*Maler, z, Hoehe);
-    Hoehe += Zeilenhoehe(Jetzige_Schrift);
+    return Breite <= Druckbereich().width();
 }
 
-void Qt_Drucker::Neue_Seite()
+bool Qt_Drucker::Neue_Seite()
 {
     Hoehe = 0;
-    if (Maler)
-        Geraet().newPage();
-    else
+    if (!Maler) {
         Seiten.emplace_back();
+        return true;
+    }
+    Gescheitert = !Blatt->newPage();
+    return !Gescheitert;
 }
 
-void Qt_Drucker::Beenden()
+bool Qt_Drucker::Beenden(bool Ganz)
 {
-    if (Maler) {
-        Maler->end();
-        Maler.reset();
-    } else {
-        Vorschau_Zeigen();
-    }
+    const bool Gut = Maler ? Blatt_Schliessen(Ganz) : !Ganz || Vorschau_Zeigen();
     Seiten.clear();
+    return Gut;
 }
 
-void Qt_Drucker::Seiten_Malen(QPrinter& Blatt) const
+// A file is written only when the document is whole.
+bool Qt_Drucker::Blatt_Schliessen(bool Ganz)
 {
-    QPainter Pinsel(&Blatt);
-    for (const Seite_T& s : Seiten) {
-        if (&s != &Seiten.front())
-            Blatt.newPage();
-        Seite_Malen(Pinsel, Blatt, s);
-    }
+    const bool Gut = Maler->end() && !Gescheitert;
+    const bool PDF = PDF_Blatt != nullptr;
+    Maler.reset();
+    PDF_Blatt.reset();
+    Blatt = nullptr;
+    if (!Gut)
+        Druckfehler_Melden();
+    const bool Geschrieben = !Gut || !PDF || !Ganz || PDF_Schreiben();
+    PDF_Puffer.reset();
+    return Gut && Geschrieben;
 }
 
-// The pages were cut for the sheet of the setup; on a shorter one, chosen in the preview, they
-// shrink.
-void Qt_Drucker::Seite_Malen(QPainter& Pinsel, QPrinter& Blatt, const Seite_T& s) const
+bool Qt_Drucker::PDF_Schreiben()
 {
-    double Gebraucht = 0;
-    for (const Zeile_T& z : s)
-        Gebraucht += QFontMetricsF(z.Schrift, &Blatt).lineSpacing();
-    const double Platz  = Blatt.pageRect(QPrinter::DevicePixel).height();
-    const double Faktor = Gebraucht > Platz ? Platz / Gebraucht : 1;
-    double       y      = 0;
-    Pinsel.save();
+    const QByteArray& Bytes = PDF_Puffer->data();
+    const std::string Name  = Nach_Std(PDF_Datei);
+    std::string       Grund;
+    if (Datei_Schreiben(Name, {Bytes.constData(), static_cast<std::size_t>(Bytes.size())}, Grund))
+        return true;
+    Melden({"Die Datei " + Name + " konnte nicht geschrieben werden: " + Grund + ".",
+            "The file " + Name + " could not be written: " + Grund + "."},
+           {},
+           Knoepfe::Ok,
+           Symbol::Warnung);
+    return false;
+}
+
+// --- the preview ---
+
+// Closed without printing it is no failure.
+bool Qt_Drucker::Vorschau_Zeigen()
+{
+    Druck_Vorschau Dialog(
+        Geraet(), [this](QPrinter& Papier) { Vorschau_Malen(Papier); }, Fenster);
+    if (Dialog.exec() != QDialog::Accepted || !Ziel_Bestimmen())
+        return true;
+    if (!Blatt_Oeffnen())
+        return false;
+    Gescheitert = !Seiten_Malen(*Maler, *Blatt);
+    return Blatt_Schliessen(true);
+}
+
+void Qt_Drucker::Vorschau_Malen(QPrinter& Papier)
+{
+    QPainter Pinsel(&Papier);
+    Seiten_Malen(Pinsel, Papier);
+}
+
+// The pages were cut for the sheet of the setup; on a smaller one, chosen in the preview, they
+// shrink. False when the printer fails.
+bool Qt_Drucker::Seiten_Malen(QPainter& Pinsel, QPagedPaintDevice& Papier) const
+{
+    const QSizeF Platz  = Papier.pageLayout().paintRectPoints().size();
+    const double Faktor = std::min(
+        {1.0, Platz.width() / Blatt_Groesse.width(), Platz.height() / Blatt_Groesse.height()});
     Pinsel.scale(Faktor, Faktor);
+    for (const Seite_T& s : Seiten) {
+        if (&s != &Seiten.front() && !Papier.newPage())
+            return false;
+        Seite_Malen(Pinsel, s);
+    }
+    return true;
+}
+
+void Qt_Drucker::Seite_Malen(QPainter& Pinsel, const Seite_T& s)
+{
+    double y = 0;
     for (const Zeile_T& z : s) {
         Zeile_Malen(Pinsel, z, y);
-        y += QFontMetricsF(z.Schrift, &Blatt).lineSpacing();
+        y += QFontMetricsF(z.Schrift, Pinsel.device()).lineSpacing();
     }
-    Pinsel.restore();
-}
-
-void Qt_Drucker::Vorschau_Zeigen()
-{
-    QPrintPreviewDialog Dialog(&Geraet(), Fenster);
-    Dialog.setObjectName(QStringLiteral("Druck_Vorschau"));
-    Dialog.setWindowTitle(Qt_Text(In_Sprache({"Druckvorschau", "Print preview"})));
-    QObject::connect(&Dialog,
-                     &QPrintPreviewDialog::paintRequested,
-                     &Dialog,
-                     [this](QPrinter* Blatt) { Seiten_Malen(*Blatt); });
-    Dialog.exec();
 }
 
 std::string Qt_Drucker::Datum() const

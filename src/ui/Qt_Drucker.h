@@ -2,15 +2,18 @@
 #pragma once
 
 #include "core/platform.h"
-#include "ui/Druck_Dialog.h"
 
 #include <QFont>
+#include <QRectF>
 
 #include <memory>
 #include <string>
 #include <vector>
 
+class QBuffer;
+class QPagedPaintDevice;
 class QPainter;
+class QPdfWriter;
 class QPrinter;
 class QWidget;
 
@@ -21,18 +24,26 @@ public:
     explicit Qt_Drucker(QWidget* Eltern);
     ~Qt_Drucker() override;
 
-    void In_PDF(const QString& Name); // the next document goes to that file
+    void      In_PDF(const QString& Name); // the next document goes to that file
+    QPrinter& Geraet();                    // holds the sheet and its margins for every target
 
     void        Einrichten() override;
     bool        Waehlen(Druckwahl_T& Wahl) override;
-    bool        Beginnen(std::string_view Titel) override;
+    bool        Beginnen(std::string_view Name) override;
     void        Schrift(const Schrift_T& Neue) override;
     int         Zeilen_Je_Seite() const override;
-    void        Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben) override;
-    void        Neue_Seite() override;
-    void        Beenden() override;
+    int         Zeichen_Je_Zeile() const override;
+    bool        Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben) override;
+    bool        Neue_Seite() override;
+    bool        Beenden(bool Ganz) override;
     std::string Datum() const override;
     std::string Uhrzeit() const override;
+
+protected:
+    Qt_Drucker(QWidget* Eltern, std::unique_ptr<QPrinter> Anderes_Geraet);
+
+    // Takes the printer of that name; false when the system has it no longer.
+    virtual bool Drucker_Einstellen(const QString& Name);
 
 private:
     struct Zeile_T {
@@ -42,21 +53,40 @@ private:
     };
     using Seite_T = std::vector<Zeile_T>;
 
-    QPrinter& Geraet();
-    bool      PDF_Datei_Waehlen();
-    void      Zeile_Malen(QPainter& Pinsel, const Zeile_T& z, double y) const;
-    double    Zeilenhoehe(const QFont& Welche) const;
-    void      Vorschau_Zeigen();
-    void      Seiten_Malen(QPrinter& Wohin) const;
-    void      Seite_Malen(QPainter& Pinsel, QPrinter& Blatt, const Seite_T& s) const;
+    QRectF Druckbereich() const; // in device units, from its own corner
+    bool   Ziel_Bestimmen();
+    bool   PDF_Datei_Waehlen();
+
+    bool Blatt_Oeffnen();
+    void PDF_Blatt_Bauen();
+    bool Blatt_Schliessen(bool Ganz);
+    bool PDF_Schreiben();
+
+    bool Vorschau_Zeigen();
+    void Vorschau_Malen(QPrinter& Papier);
+    bool Seiten_Malen(QPainter& Pinsel, QPagedPaintDevice& Papier) const;
+
+    static double Zeile_Malen(QPainter& Pinsel, const Zeile_T& z, double y);
+    static void   Seite_Malen(QPainter& Pinsel, const Seite_T& s);
 
     QWidget*                  Fenster = nullptr;
     std::unique_ptr<QPrinter> Druck_Geraet{};
-    std::unique_ptr<QPainter> Maler{}; // while a document goes to the printer
-    Druck_Dialog::Ziel        Wohin = Druck_Dialog::Ziel::PDF;
-    std::vector<Seite_T>      Seiten{}; // of the preview
-    QFont                     Jetzige_Schrift{};
-    double                    Hoehe = 0; // of the next line, device units from the top
+
+    QString Drucker_Name{}; // where the document goes; empty: to the PDF file
+    QString PDF_Datei{};
+    QString Titel{};
+    bool    Vorschau = false; // it is shown first
+
+    std::unique_ptr<QBuffer>    PDF_Puffer{}; // the file, as long as it isn't whole
+    std::unique_ptr<QPdfWriter> PDF_Blatt{};
+    std::unique_ptr<QPainter>   Maler{}; // while a document goes to Blatt
+    QPagedPaintDevice*          Blatt       = nullptr;
+    bool                        Gescheitert = false; // the document on Blatt
+
+    std::vector<Seite_T> Seiten{};        // of the preview
+    QSizeF               Blatt_Groesse{}; // for which these were cut, between the margins; points
+    QFont                Jetzige_Schrift{};
+    double               Hoehe = 0; // of the next line, device units from the top
 };
 
 } // namespace varnholt

@@ -90,9 +90,45 @@ TEST_F(Drucken_Welt, ErasedImagePrintsOnePageWithHeaderAndNoRows)
     EXPECT_EQ(z[Kopf_Zeilen], "");
     EXPECT_EQ(z[Kopf_Zeilen + 51],
               "       ----------------------------------------------------------------------");
-    EXPECT_TRUE(z[Kopf_Zeilen + 52].starts_with("       ---Datei: "));
-    EXPECT_TRUE(z[Kopf_Zeilen + 53].starts_with("       ---Datum 20.11.2026"));
+    EXPECT_EQ(z[Kopf_Zeilen + 52], "       ---Datei: " + std::string(60, '-'));
+    EXPECT_EQ(z[Kopf_Zeilen + 53],
+              "       ---Datum 20.11.2026-------------Zeit 17:05:09-------------Seite:1-----");
     EXPECT_EQ(Druck.Beendet, 1);
+}
+
+TEST_F(Drucken_Welt, FooterStandsAtTheSameHeightHoweverManyRowsThereAre)
+{
+    In_Modus(Modus_Hex);
+    for (const int Zeilen : {0, 1, 49, 50, 51, 99, 100}) {
+        Bild_Loeschen();
+        Bytes_Bis(Zeilen * 16);
+        MNU_PrintDialog_Click();
+        const auto& z = Druck.Seiten.back();
+        ASSERT_EQ(z.size(), Kopf_Zeilen + 51u + 3u) << Zeilen;
+        EXPECT_TRUE(z[Kopf_Zeilen + 51].starts_with("       -----")) << Zeilen;
+        EXPECT_EQ(z[Kopf_Zeilen + 50], "") << Zeilen;
+    }
+}
+
+TEST_F(Drucken_Welt, ExtentEndsWithTheLastByteBelowFF)
+{
+    In_Modus(Modus_Hex);
+    Hex_Daten[16] = 0xFE; // row 1, behind one that is all FFh
+    MNU_PrintDialog_Click();
+    EXPECT_TRUE(Druck.Seiten[0][Kopf_Zeilen].starts_with("       000000  000000 FF FF"));
+    EXPECT_TRUE(Druck.Seiten[0][Kopf_Zeilen + 1].starts_with("       000016  000010 FE FF"));
+    EXPECT_EQ(Druck.Seiten[0][Kopf_Zeilen + 2], "");
+}
+
+TEST_F(Drucken_Welt, TheWholeImagePrintsItsLastByte)
+{
+    In_Modus(Modus_Hex);
+    Hex_Daten[static_cast<std::size_t>(Hex_Groesse - 1)] = 0x5A;
+    MNU_PrintDialog_Click();
+    EXPECT_EQ(std::ssize(Druck.Seiten), (Hex_Groesse / 16 + 49) / 50);
+    const std::size_t Letzte = static_cast<std::size_t>((Hex_Groesse / 16 - 1) % 50);
+    EXPECT_EQ(Druck.Seiten.back()[Kopf_Zeilen + Letzte].substr(0, 72),
+              "       524272  07FFF0 FF FF FF FF FF FF FF FF FF FF FF FF FF FF FF 5A   ");
 }
 
 TEST_F(Drucken_Welt, EightHundredRowsTakeSixteenPagesAndOneMoreASeventeenth)
@@ -133,10 +169,35 @@ TEST_F(Drucken_Welt, SheetThatIsTooShortGetsASmallerFont)
     In_Modus(Modus_Hex);
     Druck.Je_Seite = 62; // one line less than a page has
     MNU_PrintDialog_Click();
-    EXPECT_EQ(Druck.Schriften_Gesetzt.back().Groesse, 5);
+    EXPECT_EQ(Druck.Schriften_Gesetzt.back().Groesse, 3);
     Druck.Je_Seite = 63;
     MNU_PrintDialog_Click();
     EXPECT_EQ(Druck.Schriften_Gesetzt.back().Groesse, 10);
+}
+
+TEST_F(Drucken_Welt, SheetThatIsTooNarrowGetsASmallerFont)
+{
+    In_Modus(Modus_Hex);
+    Bytes_Bis(16);
+    const std::size_t Zeichen = Hex_Druckzeile(0).size();
+    EXPECT_EQ(Zeichen, 88u);
+    Druck.Je_Zeile = 87;
+    MNU_PrintDialog_Click();
+    EXPECT_EQ(Druck.Schriften_Gesetzt.back().Groesse, 3);
+    Druck.Je_Zeile = 88;
+    MNU_PrintDialog_Click();
+    EXPECT_EQ(Druck.Schriften_Gesetzt.back().Groesse, 10);
+}
+
+TEST_F(Drucken_Welt, NoLineOfAnImagePageIsWiderThanItsRows)
+{
+    In_Modus(Modus_Hex);
+    Datei_Name = std::string(200, 'x');
+    Bytes_Bis(1000 * 16);
+    MNU_PrintDialog_Click();
+    for (const auto& Seite : Druck.Seiten)
+        for (const std::string& Zeile : Seite)
+            EXPECT_LE(Zeile.size(), 88u) << Zeile;
 }
 
 TEST_F(Drucken_Welt, TextIsPrintedInTheFontOfTheEditor)
@@ -257,7 +318,99 @@ TEST_F(Drucken_Welt, AbbrechenEndsThePrintingAtTheNextLine)
     MNU_PrintDialog_Click();
     EXPECT_EQ(Druck.Seiten[0].size(), 7u);
     EXPECT_EQ(Druck.Beendet, 1);
+    EXPECT_FALSE(Druck.Ganz);
     EXPECT_FALSE(Text_Sperre);
+}
+
+TEST_F(Drucken_Welt, AbbrechenEndsThePrintingOfAnImageAtTheNextPage)
+{
+    In_Modus(Modus_Hex);
+    Bytes_Bis(400 * 16);
+    Ereignisse.Bei_Runde = [&](int) { Abbruch = Druck.Seiten.size() == 3; };
+    MNU_PrintDialog_Click();
+    EXPECT_EQ(Druck.Seiten.size(), 3u);
+    EXPECT_EQ(Druck.Seiten[2].size(), Kopf_Zeilen + 50u); // whole
+    EXPECT_EQ(Druck.Beendet, 1);
+    EXPECT_FALSE(Druck.Ganz);
+}
+
+TEST_F(Drucken_Welt, ACancelIsToldInBothLanguages)
+{
+    In_Modus(Modus_MC);
+    Zeilen_Setzen(50);
+    Ereignisse.Bei_Runde = [&](int) { Abbruch = true; };
+    MNU_PrintDialog_Click();
+    EXPECT_EQ(Box.Hinweise.back(), "Printing was cancelled.");
+    Sprache = "D";
+    MNU_PrintDialog_Click();
+    EXPECT_EQ(Box.Hinweise.back(), "Das Drucken wurde abgebrochen.");
+}
+
+TEST_F(Drucken_Welt, ACancelBeforeDoesntEndTheNextPrintout)
+{
+    Bytes_Bis(400 * 16);
+    Zeilen_Setzen(100);
+    for (const int m : {Modus_Hex, Modus_MC}) {
+        In_Modus(m);
+        Abbruch = true;
+        MNU_PrintDialog_Click();
+        EXPECT_TRUE(Druck.Ganz) << m;
+    }
+    EXPECT_TRUE(Box.Hinweise.empty());
+}
+
+TEST_F(Drucken_Welt, PrinterThatFailsEndsThePrintingAtThatPage)
+{
+    Bytes_Bis(400 * 16);
+    Zeilen_Setzen(400);
+    Druck.Haelt_Bis = 2;
+    for (const int m : {Modus_Hex, Modus_MC}) {
+        In_Modus(m);
+        Druck.Beendet = 0;
+        MNU_PrintDialog_Click();
+        EXPECT_EQ(Druck.Seiten.size(), 2u) << m;
+        EXPECT_EQ(Druck.Beendet, 1) << m;
+        EXPECT_FALSE(Druck.Ganz) << m;
+    }
+    EXPECT_EQ(Druck.Seiten[1].size(), 66u); // nothing on top of the full page
+    EXPECT_TRUE(Box.Hinweise.empty());      // the printer has told
+}
+
+TEST_F(Drucken_Welt, LinesThatArePrintedWholeNeedNoWord)
+{
+    In_Modus(Modus_MC);
+    Edit.Text_Setzen(std::string(100, 'x') + "\r\n");
+    MNU_PrintDialog_Click();
+    EXPECT_TRUE(Druck.Ganz);
+    EXPECT_TRUE(Box.Hinweise.empty());
+}
+
+TEST_F(Drucken_Welt, LinesThatAreTooWideAreCountedInBothLanguages)
+{
+    In_Modus(Modus_MC);
+    Edit.Text_Setzen(std::string(101, 'x') + "\r\nNOP\r\n" + std::string(200, 'y') + "\r\n");
+    MNU_PrintDialog_Click();
+    EXPECT_EQ(Druck.Seiten[0][0].size(), 101u); // neither wrapped nor shortened
+    EXPECT_EQ(Druck.Seiten[0][1], "NOP");
+    EXPECT_EQ(Box.Hinweise.back(),
+              "Printed. Lines too wide for the paper, whose ends may be missing: 2.");
+    Sprache = "D";
+    MNU_PrintDialog_Click();
+    EXPECT_EQ(Box.Hinweise.back(),
+              "Gedruckt. Für das Papier zu breite Zeilen, deren Ende fehlen kann: 2.");
+}
+
+TEST_F(Drucken_Welt, PathThatIsTooLongForTheSheetKeepsItsEnd)
+{
+    In_Modus(Modus_MC);
+    Datei_Name     = std::string(60, 'x') + "/über.asm";
+    Druck.Je_Zeile = 60;
+    Zeilen_Setzen(1);
+    MNU_PrintDialog_Click();
+    const std::string Zeile = Druck.Seiten[0][64];
+    EXPECT_EQ(Zeile.substr(0, 13), "            x");
+    EXPECT_TRUE(Zeile.ends_with("x/über.asm"));
+    EXPECT_EQ(Zeile.size(), 60u + 1u); // the umlaut has two bytes
 }
 
 TEST_F(Drucken_Welt, ProgressIsShownInTheLanguage)
@@ -269,6 +422,12 @@ TEST_F(Drucken_Welt, ProgressIsShownInTheLanguage)
     Sprache = "D";
     MNU_PrintDialog_Click();
     EXPECT_EQ(Status.Texte.back(), " Text wird gedruckt...");
+    In_Modus(Modus_Hex);
+    MNU_PrintDialog_Click();
+    EXPECT_EQ(Status.Texte.back(), " Hexdaten werden gedruckt...");
+    Sprache = "E";
+    MNU_PrintDialog_Click();
+    EXPECT_EQ(Status.Texte.back(), " Printing hex data...");
 }
 
 TEST_F(Drucken_Welt, SetupOpensThePrintersDialog)

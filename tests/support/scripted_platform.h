@@ -167,13 +167,26 @@ public:
     }
     void Schrift(const Schrift_T& Neue) override { Schriften_Gesetzt.push_back(Neue); }
     int  Zeilen_Je_Seite() const override { return Je_Seite; }
-    void Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben) override
+    int  Zeichen_Je_Zeile() const override { return Je_Zeile; }
+    bool Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben) override
     {
         Seiten.back().emplace_back(Text);
         Alle_Farben.emplace_back(Farben.begin(), Farben.end());
+        return std::ssize(Text) <= Je_Zeile;
     }
-    void        Neue_Seite() override { Seiten.emplace_back(); }
-    void        Beenden() override { ++Beendet; }
+    bool Neue_Seite() override
+    {
+        if (std::ssize(Seiten) == Haelt_Bis)
+            return false;
+        Seiten.emplace_back();
+        return true;
+    }
+    bool Beenden(bool War_Ganz) override
+    {
+        ++Beendet;
+        Ganz = War_Ganz;
+        return std::ssize(Seiten) != Haelt_Bis;
+    }
     std::string Datum() const override { return "20.11.2026"; }
     std::string Uhrzeit() const override { return "17:05:09"; }
 
@@ -183,6 +196,9 @@ public:
     std::vector<Druckwahl_T>               Gefragt{};
     std::string                            Titel{};
     int                                    Je_Seite       = 66;
+    int                                    Je_Zeile       = 100;
+    int                                    Haelt_Bis      = -1;    // the page behind which it fails
+    bool                                   Ganz           = false; // the last document
     int                                    Eingerichtet   = 0;
     int                                    Beendet        = 0;
     bool                                   Nimmt_An       = true;
