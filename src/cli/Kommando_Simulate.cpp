@@ -51,6 +51,58 @@ std::string Prozessorfile_Pfad(const std::string& Name)
     return Pfad ? Pfad->string() : Name;
 }
 
+// Where a name leads to; `-` is what comes in.
+fs::path Ort_Von(const std::string& Name)
+{
+    std::error_code Fehler;
+    const fs::path  Ganz = fs::absolute(Name == "-" ? "/dev/stdin" : Name, Fehler);
+    const fs::path  Ort  = fs::weakly_canonical(Ganz, Fehler);
+    return Fehler ? Ganz : Ort;
+}
+
+// Whether both names lead to one file: by another spelling or a link as well. A device is none.
+bool Selbe_Datei(const std::string& a, const std::string& b)
+{
+    const fs::path  Ort = Ort_Von(a);
+    std::error_code Fehler;
+    if (fs::exists(Ort, Fehler))
+        return fs::is_regular_file(Ort, Fehler) && fs::equivalent(Ort, Ort_Von(b), Fehler);
+    return Ort == Ort_Von(b);
+}
+
+// An output is written over none of the files that the command works with.
+int Ausgabe_Pruefen(const Simulate_Optionen& o, const char* Option, const std::string& Name)
+{
+    const auto Gleich = [&](const std::string& Andere) {
+        return !Andere.empty() && Selbe_Datei(Name, Andere);
+    };
+    if (Name.empty() || Name == "-")
+        return Status_Fertig;
+    if (Gleich(o.Eingabe))
+        return Falsche_Zeile({fmt::format("{} {}: das ist die Eingabe", Option, Name),
+                              fmt::format("{} {}: that is the input", Option, Name)});
+    if (Gleich(Prozessorfile_Pfad(o.Prozessor)))
+        return Falsche_Zeile({fmt::format("{} {}: das ist das Prozessorfile", Option, Name),
+                              fmt::format("{} {}: that is the processor file", Option, Name)});
+    return Status_Fertig;
+}
+
+int Ausgaben_Pruefen(const Simulate_Optionen& o)
+{
+    if (!o.XRAM_Datei.empty())
+        if (const int Status = Bildname_Pruefen(o.XRAM_Datei); Status != Status_Fertig)
+            return Status;
+    if (const int Status = Ausgabe_Pruefen(o, "--trace", o.Spur); Status != Status_Fertig)
+        return Status;
+    if (const int Status = Ausgabe_Pruefen(o, "--xram-out", o.XRAM_Datei); Status != Status_Fertig)
+        return Status;
+    if (!o.Spur.empty() && o.Spur != "-" && o.XRAM_Datei != "-" && !o.XRAM_Datei.empty() &&
+        Selbe_Datei(o.Spur, o.XRAM_Datei))
+        return Falsche_Zeile({"--trace und --xram-out schreiben in dieselbe Datei",
+                              "--trace and --xram-out write to the same file"});
+    return Status_Fertig;
+}
+
 // The names of the registers, then the image.
 int Bild_Bereitstellen(const Simulate_Optionen& o)
 {
@@ -204,10 +256,12 @@ int Simulate(const Simulate_Optionen& o)
     if (!Hoechstens)
         return Falsche_Zeile({o.Befehle + " ist keine Anzahl", o.Befehle + " is no number"});
     if (o.Zeilenweise && !Hat_Quell_Endung(o.Eingabe))
-        return Falsche_Zeile({"--line-mode braucht einen Quelltext", "--line-mode needs a source"});
-    if (!o.XRAM_Datei.empty())
-        if (const int Status = Bildname_Pruefen(o.XRAM_Datei); Status != Status_Fertig)
-            return Status;
+        return Falsche_Zeile({o.Eingabe + " ist ein Abbild; --line-mode zählt Quellzeilen und "
+                                          "braucht einen Quelltext",
+                              o.Eingabe + " is an image; --line-mode counts source lines and "
+                                          "needs a source"});
+    if (const int Status = Ausgaben_Pruefen(o); Status != Status_Fertig)
+        return Status;
     if (const int Status = Programm_Bereitstellen(o); Status != Status_Fertig)
         return Status;
     return Mit_Spur_Laufen(o, *Hoechstens);

@@ -20,9 +20,57 @@ namespace {
 
 constexpr std::int64_t Stueck            = 20'000'000; // instructions between two looks at progress
 constexpr std::int64_t Aufrufe           = 1 << 18;    // the same, in calls of Simulieren
-constexpr std::int64_t Zeile_Hoechstens  = 10'000'000; // instructions of one source line
+constexpr std::int64_t Zeile_Hoechstens  = 1'000'000'000; // instructions of one source line
 constexpr std::int64_t Zeilen_Hoechstens = 1'000'000'000; // of all of them together
 constexpr std::size_t  Puffer_Groesse    = 1U << 16;
+
+// Finds out that a line never ends: the machine stands as it stood before, and nothing comes from
+// outside that could change its way. What it is compared with moves on at powers of two, so a
+// circle of any length is found within about twice that length.
+class Kreis_Suche {
+public:
+    void Beginnen()
+    {
+        Befehle = 0;
+        Marke   = Erste_Marke;
+    }
+    // Behind an instruction.
+    bool Geschlossen()
+    {
+        if (Befehle >= Erste_Marke && Wie_Gemerkt())
+            return true;
+        if (++Befehle == Marke) {
+            Merken();
+            Marke *= 2;
+        }
+        return false;
+    }
+
+private:
+    static constexpr std::int64_t Erste_Marke = 1 << 16; // shorter lines aren't worth a copy
+
+    void Merken()
+    {
+        PC   = Sim_PC;
+        Prio = Sim_Prio;
+        Pins = Sim_Pins;
+        RAM  = Sim_RAM;
+        XRAM = Sim_XRAM;
+    }
+    bool Wie_Gemerkt() const
+    {
+        return Sim_PC == PC && Sim_Prio == Prio && Sim_RAM == RAM && Sim_Pins == Pins &&
+               Sim_XRAM == XRAM;
+    }
+
+    std::int64_t                Befehle = 0;
+    std::int64_t                Marke   = Erste_Marke;
+    std::int32_t                PC      = 0;
+    std::int16_t                Prio    = -1;
+    decltype(Maschine.Sim_Pins) Pins{};
+    decltype(Maschine.Sim_RAM)  RAM{};
+    decltype(Maschine.Sim_XRAM) XRAM{};
+};
 
 // Counts the instructions of a run and writes them down.
 class Zaehlwerk final : public Befehls_Zeuge {
@@ -39,12 +87,16 @@ public:
     void Ausgefuehrt(std::int32_t Adresse) override
     {
         ++Befehle;
-        if (++In_Der_Zeile >= Zeile_Hoechstens)
+        if (++In_Der_Zeile >= Zeile_Hoechstens || Kreis.Geschlossen())
             Debugger_Aktiv = false; // the call returns
         if (Strom != nullptr)
             Aufschreiben(Adresse);
     }
-    void Zeile_Beginnen() { In_Der_Zeile = 0; }
+    void Zeile_Beginnen()
+    {
+        In_Der_Zeile = 0;
+        Kreis.Beginnen();
+    }
 
     std::int64_t Befehle = 0;
 
@@ -74,6 +126,7 @@ private:
     std::ostream*      Strom;
     fmt::memory_buffer Puffer{};
     std::int64_t       In_Der_Zeile = 0;
+    Kreis_Suche        Kreis{};
 };
 
 void Fortschritt(std::int64_t Fertig, std::int64_t Gesamt)

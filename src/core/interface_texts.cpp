@@ -83,7 +83,7 @@ void Sprache_Setzen(const char* Neue)
     Menue_Beschriften();
     Hauptfenster_Beschriften();
     Werkzeuge_Beschriften();
-    if (Debug_Laeuft)
+    if (Programm_Laeuft())
         Start_Beschriften();
     Datei_Filter = Fester_Text(Filter);
     Fenster_Beschriften();

@@ -1,6 +1,7 @@
 // Undo and redo by whole snapshots of the source text, in a ring of files.
 #include "core/undo.h"
 
+#include "core/captions.h"
 #include "core/commands.h"
 #include "core/instance.h"
 #include "core/menu.h"
@@ -109,7 +110,7 @@ bool Schritt_Aufnehmen()
     if (Undo_Ende == Undo_Index)
         Undo_Ende = Naechster(Undo_Ende); // the oldest step is given up
     Undo_Index = Naechster(Undo_Index);
-    Undo_Schalten(true);
+    Undo_Schalten(!Debugger_Aktiv); // a session keeps its text, and gives the button back
     Redo_Schalten(false);
     return true;
 }
@@ -138,7 +139,7 @@ void Platz_Zeigen(int Platz)
     Plattform.Edit->Faerben(Aufnahme->Farben);
     Ansicht_Herstellen(Platz);
     Datei_Geaendert = true; // another text than the one that was saved
-    Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor (*)" + Datei_Name);
+    Editor_Titel(Fenster_Edit, true);
     Sprungmarken_Fuellen();
 }
 

@@ -5,6 +5,7 @@
 #include "core/commands.h"
 #include "core/interface_texts.h"
 #include "core/menu.h"
+#include "core/session.h"
 #include "core/shared_state.h"
 #include "core/views.h"
 #include "editors/Nachschlagen.h"
@@ -225,6 +226,22 @@ void Fenster_Anordnen()
         Ein_Fenster_Anordnen(n);
     if (!Init_Laeuft)
         Fenster_Freigeben();
+}
+
+void Sitzungsfenster_Zeigen()
+{
+    bool Neue = false;
+    for (int n = Fenster_RAM; n <= Fenster_CONTROL; ++n) {
+        const bool Zeigt       = Wert_Jetzt(n, Feld::Sichtbar) != 0;
+        Fenster_Menue(n).Haken = Zeigt;
+        Neue                   = Neue || (Zeigt && !Plattform.Fenster->Sichtbar(n));
+    }
+    if (!Neue)
+        return;
+    for (int n = 1; n <= Fenster_Anzahl; ++n)
+        if (Plattform.Fenster->Sichtbar(n))
+            Fenster_Merken(n); // nothing goes back that the user has moved
+    Fenster_Anordnen();
 }
 
 void Fenster_Sperren() { Plattform.Ereignisse->Fenster_Sperren(true); }

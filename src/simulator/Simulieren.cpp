@@ -15,8 +15,9 @@ namespace varnholt {
 namespace {
 
 constexpr double Runde_Abstand = 0.02; // seconds between two turns of windows and events
-constexpr int    Runde_Pruefen = 256;  // instructions of a long step between two looks at the clock
 constexpr double Verzoegerung  = 0.2;  // seconds, of Debug_Verzoegerung
+// Instructions of a long step between two looks at the clock.
+constexpr unsigned     Runde_Pruefen   = 256;
 constexpr std::int64_t Vollgas_Befehle = 400000; // a piece: one to five milliseconds
 
 bool Runde_Faellig()
@@ -74,13 +75,14 @@ Lauf_Ergebnis Befehl_Bezeugen()
 // their turn, and ends when a stop is asked for there.
 void Zeile_Ausfuehren()
 {
-    for (int i = 1; Debugger_Aktiv; ++i) {
+    for (unsigned i = 1; Debugger_Aktiv; ++i) {
         const Lauf_Ergebnis e = Befehl_Bezeugen();
         if (!Lauf_Ging(e.Grund) || Debug_Vollgas || Zeilenanfang_Erreicht(e.PC))
             return;
         if (i % Runde_Pruefen != 0 || !Runde_Faellig())
             continue;
         Zyklen_Anzeigen();
+        Start_Beschriften(); // a step that takes long can be stopped like a run
         Plattform.Ereignisse->Eine_Runde();
         if (Debug_Stop)
             return;

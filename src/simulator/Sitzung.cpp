@@ -55,9 +55,10 @@ void Stelle_Zeigen()
     Zyklen_Anzeigen();
 }
 
+// Behind the last address the program begins anew, as it does when it runs there.
 void PC_Setzen(std::int32_t Adresse)
 {
-    Sim_PC = std::clamp(Adresse, std::int32_t{0}, std::int32_t{Code_Groesse});
+    Sim_PC = Adresse < 0 || Adresse >= Code_Groesse ? 0 : Adresse;
     Zeile_Anzeigen();
 }
 
@@ -83,6 +84,7 @@ void Zeile_Simulieren()
     Simulieren();
     Sitzung.Schritt_Laeuft = false;
     Debug_Stop             = false;
+    Start_Beschriften();
 }
 
 } // namespace
@@ -91,8 +93,8 @@ void Sitzung_Zuruecksetzen() { Sitzung = {}; }
 
 void Start_Beschriften()
 {
-    const std::string Text =
-        In_Sprache(Debug_Laeuft ? Text_Paar{"Stoppen", "Stop"} : Text_Paar{"Starten", "Start"});
+    const std::string Text         = In_Sprache(Programm_Laeuft() ? Text_Paar{"Stoppen", "Stop"}
+                                                          : Text_Paar{"Starten", "Start"});
     Menue("MNU_deb_Starten").Titel = Text;
     Werkzeug(24).Hinweis           = Text;
 }
@@ -152,7 +154,7 @@ void Debug_Starten()
     ++Sitzung.Nummer;
     Sim_Aufbauen();
     Aenderungen_Vergessen();
-    Fenster_Anordnen();
+    Sitzungsfenster_Zeigen();
 }
 
 // A session that can't begin anew ends with all that belongs to it.
@@ -250,6 +252,10 @@ void Debug_Runter()
 {
     Sim_PC += Laenge_Am_PC();
     Naechste_Zeile();
+    if (Sim_PC >= Code_Groesse) { // the end mark counts as a line
+        Sim_PC = 0;
+        Naechste_Zeile();
+    }
     Stelle_Zeigen();
 }
 
@@ -311,10 +317,8 @@ void Debug_Stoppunkt()
         Edit.Auswahl_Ersetzen("STOP\r\n");
         Zeilen_Einfaerben(Zeile, Zeile);
     }
-    if (Debugger_Aktiv) {
+    if (Debugger_Aktiv)
         Zeile_Einschieben(Zeile);
-        Undo_Knoepfe_Sperren(); // the snapshot has enabled them
-    }
     Text_Change();
 }
 

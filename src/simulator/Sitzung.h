@@ -27,6 +27,9 @@ inline struct Sitzung_T {
     std::uint32_t Nummer         = 0;     // counts the sessions begun
     // By address 0 to 65536: no row of the main text begins there, a search would be in vain.
     std::bitset<65537> Kein_Anfang{};
+    // Lines of the editor that are known to be in sight; -1: none.
+    std::int64_t Oberste_Gezeigt  = -1;
+    std::int64_t Unterste_Gezeigt = -1;
     // When a running program lets windows and events have their turn, seconds since midnight.
     double         Naechste_Runde = 0;
     Befehls_Zeuge* Zeuge          = nullptr; // null: nobody wants to know
@@ -56,8 +59,8 @@ void Debug_Cursor();      // to the editor line of the cursor
 void Debug_Reset_PC();
 void Debug_Reset_Speicher();
 void Debug_Stoppunkt(); // inserts STOP above the cursor's line
-// Captions of the command that starts and stops.   reads: Debug_Laeuft, Sprache   sets: menu, tool
-// bar
+// Captions of the command that starts, and stops what runs.   reads: Debug_Laeuft, Schritt_Laeuft,
+// Sprache   sets: menu, tool bar
 void Start_Beschriften();
 
 // The assembler's half of Debug_Vorbereiten: assembles in debugger mode, asks for the processor

@@ -14,6 +14,8 @@
 namespace varnholt {
 namespace {
 
+constexpr std::int64_t Umgebung = 4; // lines
+
 std::int32_t Adresse_Von(std::int32_t Zeile)
 {
     return Quell_Zeilen[static_cast<std::size_t>(Zeile)].Adresse;
@@ -66,12 +68,30 @@ bool Vorwaerts_Suchen(std::int32_t Zeile)
     return false;
 }
 
+// Brings some lines above and below into sight, so that the running one isn't at the edge: the
+// control scrolls to what is selected. What is known to be in sight isn't selected again.
+void Umgebung_Zeigen(std::int64_t Zeile)
+{
+    Textfeld&          Edit  = *Plattform.Edit;
+    const std::int64_t Oben  = std::max(Zeile - Umgebung, std::int64_t{0});
+    const std::int64_t Unten = std::min(Zeile + Umgebung, Edit.Zeilen_Anzahl() - 1);
+    if (Edit.Erste_Zeile() == Sitzung.Oberste_Gezeigt && Oben >= Sitzung.Oberste_Gezeigt &&
+        Unten <= Sitzung.Unterste_Gezeigt)
+        return;
+    Edit.Auswaehlen(Edit.Zeile(Unten).Anfang, 0);
+    Edit.Auswaehlen(Edit.Zeile(Oben).Anfang, 0);
+    Sitzung.Oberste_Gezeigt  = Edit.Erste_Zeile();
+    Sitzung.Unterste_Gezeigt = Unten;
+}
+
 void Auswaehlen(std::int32_t Editor)
 {
     Textfeld&           Edit = *Plattform.Edit;
     const Ereignis_Ruhe Ruhe;
-    const Textstelle_T  Zeile =
-        Edit.Zeile(std::clamp(std::int64_t{Editor}, std::int64_t{0}, Edit.Zeilen_Anzahl() - 1));
+    const std::int64_t  Nummer =
+        std::clamp(std::int64_t{Editor}, std::int64_t{0}, Edit.Zeilen_Anzahl() - 1);
+    const Textstelle_T Zeile = Edit.Zeile(Nummer);
+    Umgebung_Zeigen(Nummer);
     std::string            Puffer;
     const std::string_view Text = Edit.Text_Ansicht(Puffer);
     const Textstelle_T     Code = Code_Stelle(Text.substr(static_cast<std::size_t>(Zeile.Anfang),

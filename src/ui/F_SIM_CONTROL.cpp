@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -106,7 +107,8 @@ QString Wort(const char* D, const char* E) { return Qt_Text(In_Sprache({D, E}));
 F_SIM_CONTROL::F_SIM_CONTROL(Befehls_Weg Neuer_Weg)
     : Weg(std::move(Neuer_Weg)), L_Adr_Text(new QLabel), L_Adr(new QLabel), L_MT(new QLabel),
       L_Zyklen(new QLabel), Check1(new Haken_Feld({})), Check2(new Haken_Feld({})),
-      Knopf_Gitter(new QGridLayout)
+      Knopf_Gitter(new QGridLayout),
+      Esc(new QShortcut(Qt::Key_Escape, this, nullptr, nullptr, Qt::ApplicationShortcut))
 {
     setWindowTitle(QStringLiteral("CONTROL"));
     L_Adr_Text->setObjectName(QStringLiteral("L_Adr_Text"));
@@ -127,6 +129,7 @@ F_SIM_CONTROL::F_SIM_CONTROL(Befehls_Weg Neuer_Weg)
     connect(Check2, &QCheckBox::clicked, this, [this](bool An) {
         Ausfuehren([An] { Check2_Click(An); });
     });
+    connect(Esc, &QShortcut::activated, this, [this] { Ausfuehren(Debug_Start_Stop); });
     Nachziehen();
 }
 
@@ -204,6 +207,7 @@ void F_SIM_CONTROL::Nachziehen()
     Text_Zeigen(L_Zyklen, Sim_Ansichten.L_Zyklen);
     Haken_Zeigen(Check1, Debug_Verzoegerung);
     Haken_Zeigen(Check2, Debug_Vollgas);
+    Esc->setEnabled(Programm_Laeuft());
 }
 
 void F_SIM_CONTROL::Beschriften()
@@ -228,7 +232,7 @@ void F_SIM_CONTROL::Beschriften()
 
 void F_SIM_CONTROL::Start_Beschriften()
 {
-    const QString Text = Debug_Laeuft ? Wort("Stoppen", "Stop") : Wort("Starten", "Start");
+    const QString Text = Programm_Laeuft() ? Wort("Stoppen", "Stop") : Wort("Starten", "Start");
     if (Knoepfe.front()->text() == Text)
         return;
     Knoepfe.front()->setText(Text);

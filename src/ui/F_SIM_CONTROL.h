@@ -13,6 +13,7 @@ class QGridLayout;
 class QKeyEvent;
 class QLabel;
 class QPushButton;
+class QShortcut;
 
 namespace varnholt {
 
@@ -50,6 +51,7 @@ private:
     Haken_Feld*               Check1;
     Haken_Feld*               Check2;
     QGridLayout*              Knopf_Gitter;
+    QShortcut*                Esc; // stops what runs, wherever the focus is
     std::vector<QPushButton*> Knoepfe{};
     int                       Knopf_Spalten = 0;
     std::string               Gezeigte_Sprache{};

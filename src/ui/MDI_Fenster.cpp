@@ -79,9 +79,13 @@ void MDI::Sichtbar_Setzen(int Nummer, bool Zu_Sehen)
     if (k == nullptr || k->isHidden() != Zu_Sehen)
         return;
     Zeigen_Falls_Noetig();
+    const bool Mit_Fokus = !Zu_Sehen && k->isAncestorOf(QApplication::focusWidget());
     if (Zu_Sehen)
         k->widget()->show();
     k->setVisible(Zu_Sehen);
+    const int Haupt = Modus == Modus_Hex ? Fenster_Hexedit : Fenster_Edit;
+    if (Mit_Fokus && Sichtbar(Haupt))
+        Fokus(Haupt); // the keyboard mustn't be lost with the window
 }
 
 Lage_T MDI::Lage(int Nummer) const

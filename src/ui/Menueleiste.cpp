@@ -155,7 +155,7 @@ void Menueleiste::Bilder_Laden()
 // The button that starts a program stops it while it runs, and looks so.
 void Menueleiste::Start_Bild_Zeigen()
 {
-    Laeuft_Gezeigt     = Debug_Laeuft;
+    Laeuft_Gezeigt     = Programm_Laeuft();
     const QIcon Symbol = Symbol_Bild(Laeuft_Gezeigt ? u"Stoppen" : u"Starten", Besitzer->palette());
     Knoepfe[Werkzeug_Starten]->setIcon(Symbol);
     Eintrag("MNU_deb_Starten")->setIcon(Symbol);
@@ -204,7 +204,7 @@ void Menueleiste::Nachziehen()
         if (Gezeigte_Knoepfe[static_cast<std::size_t>(w.Position)] != Soll)
             Knopf_Zeigen(w.Position);
     }
-    if (Laeuft_Gezeigt != Debug_Laeuft)
+    if (Laeuft_Gezeigt != Programm_Laeuft())
         Start_Bild_Zeigen();
 }
 

@@ -130,7 +130,8 @@ bool Quelltext_Feld::event(QEvent* Ereignis)
             (Taste->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier &&
             (Taste->key() < Qt::Key_F1 || Taste->key() > Qt::Key_F35);
         Ereignis->setAccepted(Eigene_Taste(*Taste, textCursor().hasSelection()) ||
-                              (Zeichen && Taste->key() != Qt::Key_Delete));
+                              (Zeichen && Taste->key() != Qt::Key_Delete &&
+                               Taste->key() != Qt::Key_Escape)); // it stops a running program
         return true;
     }
     return Text_Feld::event(Ereignis);

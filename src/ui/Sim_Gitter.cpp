@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -192,6 +193,15 @@ void Sim_Tafel::currentChanged(const QModelIndex& Neue, const QModelIndex& Alte)
     emit Zelle_Gewechselt(Neue);
 }
 
+// Only the left button has a second click; with the others it is one more press.
+void Sim_Tafel::mouseDoubleClickEvent(QMouseEvent* Ereignis)
+{
+    if (Ereignis->button() == Qt::LeftButton)
+        QTableView::mouseDoubleClickEvent(Ereignis);
+    else
+        mousePressEvent(Ereignis);
+}
+
 void Sim_Tafel::resizeEvent(QResizeEvent* Ereignis)
 {
     QTableView::resizeEvent(Ereignis);
@@ -323,11 +333,13 @@ QString Sim_Gitter::Streifen_Text(Streifen Was, const QModelIndex& Ort) const
 
 // --- edits ---
 
-std::string Sim_Gitter::Getippt(Streifen Was) const
+QLineEdit* Sim_Gitter::Feld_Von(Streifen Was) const
 {
     const auto Platz = std::find(Arten.begin(), Arten.end(), Was) - Arten.begin();
-    return Nach_1252(T_Edit[static_cast<std::size_t>(Platz)]->text());
+    return T_Edit[static_cast<std::size_t>(Platz)];
 }
+
+std::string Sim_Gitter::Getippt(Streifen Was) const { return Nach_1252(Feld_Von(Was)->text()); }
 
 void Sim_Gitter::Ausfuehren(const std::function<void()>& Befehl)
 {
@@ -354,14 +366,19 @@ void Sim_Gitter::Enter(Streifen Was)
     else if (Was == Streifen::Bits)
         Ausfuehren([&] { Bits_Uebernehmen(Welche, Adresse, Wert); });
     Zur_Adresse(static_cast<int>(Hex_zu_Wert(Adresse)));
+    Feld_Von(Was)->selectAll(); // the next value takes its place
 }
 
 void Sim_Gitter::Zur_Adresse(int Adresse)
 {
     const QModelIndex Ort  = Modell->Ort_Von(Adresse);
     const QModelIndex Hier = Feld->currentIndex();
-    if (Ort.isValid() && (!Hier.isValid() || Modell->Adresse_Von(Ort) != Modell->Adresse_Von(Hier)))
-        Feld->setCurrentIndex(Ort);
+    if (!Ort.isValid() || (Hier.isValid() && Modell->Adresse_Von(Ort) == Modell->Adresse_Von(Hier)))
+        return;
+    const bool Zu_Sehen = Feld->viewport()->rect().contains(Feld->visualRect(Ort));
+    Feld->setCurrentIndex(Ort);
+    if (!Zu_Sehen) // with its neighbours
+        Feld->scrollTo(Ort, QAbstractItemView::PositionAtCenter);
 }
 
 } // namespace varnholt

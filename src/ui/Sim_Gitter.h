@@ -57,6 +57,7 @@ signals:
 
 protected:
     void currentChanged(const QModelIndex& Neue, const QModelIndex& Alte) override;
+    void mouseDoubleClickEvent(QMouseEvent* Ereignis) override;
     void resizeEvent(QResizeEvent* Ereignis) override;
     void changeEvent(QEvent* Ereignis) override;
 
@@ -96,6 +97,7 @@ private:
     void        Erste_Zelle_Waehlen();
     void        Streifen_Fuellen(bool Auch_Getipptes);
     QString     Streifen_Text(Streifen Was, const QModelIndex& Ort) const;
+    QLineEdit*  Feld_Von(Streifen Was) const;
     std::string Getippt(Streifen Was) const; // Windows-1252
     void        Zelle_Geklickt(const QModelIndex& Ort);
     void        Enter(Streifen Was);

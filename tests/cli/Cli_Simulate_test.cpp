@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <utility>
 
 namespace varnholt::test {
@@ -420,9 +421,12 @@ TEST_F(Simulate, line_mode_needs_a_source)
     Schreiben("a.bin", "\x04");
     const auto r = Laufe("a.bin", {"--line-mode"});
     EXPECT_EQ(r.Status, 2);
-    EXPECT_EQ(r.Fehler, "varnholt-cli: --line-mode needs a source\n");
+    EXPECT_EQ(
+        r.Fehler,
+        "varnholt-cli: a.bin is an image; --line-mode counts source lines and needs a source\n");
     EXPECT_EQ(Deutsch({"simulate", "a.bin", "--line-mode"}).Fehler,
-              "varnholt-cli: --line-mode braucht einen Quelltext\n");
+              "varnholt-cli: a.bin ist ein Abbild; --line-mode zählt Quellzeilen und braucht einen "
+              "Quelltext\n");
 }
 
 TEST_F(Simulate, a_line_without_an_end_is_given_up_with_a_message)
@@ -436,6 +440,26 @@ TEST_F(Simulate, a_line_without_an_end_is_given_up_with_a_message)
     const auto D = Deutsch({"simulate", "a.asm", "--line-mode"});
     EXPECT_EQ(D.Fehler, "Die Zeile kommt nicht zum Ende !\n");
     EXPECT_EQ(D.Aus.substr(0, 20), "Ende: endlose Zeile,");
+}
+
+TEST_F(Simulate, a_line_that_goes_round_through_many_states_is_given_up_as_well)
+{
+    Schreiben("loop.inc", "LOOP: INC A\n MOVX @DPTR,A\n DJNZ R0,LOOP\n SJMP LOOP\n");
+    const auto r = Quelle(" SETB TR0\n MOV TMOD,#2\n LJMP LOOP\nINCLUDE loop.inc\n",
+                          {"--line-mode", "--json"});
+    EXPECT_EQ(r.Status, 1);
+    EXPECT_EQ(Json::parse(r.Aus)["stopped"], "endless line");
+}
+
+TEST_F(Simulate, a_long_line_comes_to_its_end)
+{
+    Schreiben("wait.inc",
+              "WAIT: MOV R7,#160\nW1: MOV R6,#0\nW2: MOV R5,#0\nW3: DJNZ R5,W3\n"
+              " DJNZ R6,W2\n DJNZ R7,W1\n RET\n");
+    const Json j = Quelle_Json(" LCALL WAIT\n STOP\nINCLUDE wait.inc\n", {"--line-mode"});
+    EXPECT_EQ(j["stopped"], "stop point");
+    EXPECT_EQ(j["instructions"], 160 * (256 * (256 + 2) + 2) + 3);
+    EXPECT_GT(j["instructions"], 10'000'000);
 }
 
 // --- the trace ---
@@ -515,6 +539,55 @@ TEST_F(Simulate, the_external_memory_is_not_written_over_a_source)
     const auto r = Quelle(" STOP\n", {"--xram-out", "a.asm"});
     EXPECT_EQ(r.Status, 2);
     EXPECT_EQ(Lesen("a.asm"), std::string(Kopf) + " STOP\n");
+}
+
+TEST_F(Simulate, no_output_is_written_over_the_input)
+{
+    const std::string Text = std::string(Kopf) + " STOP\n";
+    Schreiben("a.asm", Text);
+    Schreiben("a.bin", "\x04\xA5");
+    std::filesystem::create_directory(Ordner / "sub");
+    for (const std::string Eingabe : {"a.asm", "a.bin"}) {
+        const std::string Vorher = Lesen(Eingabe);
+        const auto        Pfad   = Ordner / Eingabe;
+        std::filesystem::create_symlink(Pfad, Ordner / ("soft_" + Eingabe));
+        std::filesystem::create_hard_link(Pfad, Ordner / ("hard_" + Eingabe));
+        for (const std::string& Name : {Eingabe,
+                                        "./" + Eingabe,
+                                        "sub/../" + Eingabe,
+                                        Pfad.string(),
+                                        "soft_" + Eingabe,
+                                        "hard_" + Eingabe})
+            for (const char* Option : {"--trace", "--xram-out"}) {
+                const auto r = Laufe(Eingabe, {Option, Name});
+                EXPECT_EQ(r.Status, 2) << Option << Name;
+                EXPECT_TRUE(Enthaelt(r.Fehler, Name)) << r.Fehler;
+                EXPECT_EQ(r.Aus, "");
+                EXPECT_EQ(Lesen(Eingabe), Vorher) << Option << Name;
+            }
+        EXPECT_EQ(Laufe("soft_" + Eingabe, {"--trace", Eingabe}).Status, 2);
+    }
+    EXPECT_EQ(Laufe("a.asm", {"--trace", "./a.asm"}).Fehler,
+              "varnholt-cli: --trace ./a.asm: that is the input\n");
+    EXPECT_EQ(Deutsch({"simulate", "a.bin", "--xram-out", "a.bin"}).Fehler,
+              "varnholt-cli: --xram-out a.bin: das ist die Eingabe\n");
+}
+
+TEST_F(Simulate, no_output_is_written_over_the_processor_file_or_another_output)
+{
+    Schreiben("a.bin", "\x04\xA5");
+    Schreiben("own.mc", "DATA P0=80h\n");
+    EXPECT_EQ(Laufe("a.bin", {"--processor", "own.mc", "--trace", "./own.mc"}).Status, 2);
+    EXPECT_EQ(Lesen("own.mc"), "DATA P0=80h\n");
+    const auto Beide = Laufe("a.bin", {"--trace", "t", "--xram-out", "./t"});
+    EXPECT_EQ(Beide.Status, 2);
+    EXPECT_EQ(Beide.Fehler, "varnholt-cli: --trace and --xram-out write to the same file\n");
+    EXPECT_FALSE(std::filesystem::exists(Ordner / "t"));
+    EXPECT_EQ(Deutsch({"simulate", "a.bin", "--trace", "t", "--xram-out", "t"}).Fehler,
+              "varnholt-cli: --trace und --xram-out schreiben in dieselbe Datei\n");
+    EXPECT_EQ(Laufe("a.bin", {"--trace", "t", "--xram-out", "x"}).Status, 0);
+    EXPECT_EQ(Laufe("a.bin", {"--trace", "t", "--xram-out", "x"}).Status, 0) << "once more";
+    EXPECT_EQ(Laufe("a.bin", {"--trace", "/dev/null", "--xram-out", "/dev/null"}).Status, 0);
 }
 
 // --- help ---

@@ -485,16 +485,23 @@ TEST_F(Ansichten_Test, The_hex_field_takes_two_digits_and_holds_at_255)
 TEST_F(Ansichten_Test, The_address_leads_to_its_byte)
 {
     ASSERT_TRUE(Programm("NOP\n"));
-    const std::pair<const char*, int> Im_RAM[] = {{"00", 0},
-                                                  {"7F", 127},
-                                                  {"80", 256},
-                                                  {"AC", 300},
-                                                  {"FF", 383},
-                                                  {"ff", 383},
-                                                  {"", 0},
-                                                  {"x", 0}};
-    const std::pair<const char*, int> Im_SFR[] = {
-        {"80", 128}, {"E0", 224}, {"FF", 255}, {"30", 48}, {"", 0}, {"x", 0}};
+    const std::pair<const char*, int> Im_RAM[]   = {{"00", 0},
+                                                    {"7F", 127},
+                                                    {"80", 256},
+                                                    {"AC", 300},
+                                                    {"FF", 383},
+                                                    {"ff", 383},
+                                                    {"", 0},
+                                                    {"x", 0}};
+    const std::pair<const char*, int> Im_SFR[]   = {{"80", 128},
+                                                    {"E0", 224},
+                                                    {"FF", 255},
+                                                    {"100", 256},
+                                                    {"17F", 383},
+                                                    {"17f", 383},
+                                                    {"30", 48},
+                                                    {"", 0},
+                                                    {"x", 0}};
     const std::pair<const char*, int> Im_EXRAM[] = {
         {"0000", 0}, {"1234", 0x1234}, {"FFFF", 65535}, {"", 0}, {"x", 0}};
     for (const auto& [Adresse, Index] : Im_RAM) {

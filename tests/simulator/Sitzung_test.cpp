@@ -656,6 +656,26 @@ TEST_F(Sitzung_Test, The_start_command_reads_stop_while_it_runs)
     }
 }
 
+TEST_F(Sitzung_Test, The_start_command_reads_stop_while_a_step_takes_long)
+{
+    Include_Datei("sub.inc", "; endless\nSUB1: SJMP SUB1\n");
+    for (const auto& [Kennung, Stop, Start] :
+         {std::tuple{"D", "Stoppen", "Starten"}, std::tuple{"E", "Stop", "Start"}}) {
+        Sprache = Kennung;
+        ASSERT_TRUE(Programm("LCALL SUB1\nINCLUDE sub.inc\n"));
+        std::string Titel;
+        In_Runde(3, [&] {
+            Titel = Menue("MNU_deb_Starten").Titel;
+            EXPECT_EQ(Werkzeug(24).Hinweis, Stop);
+            Debug_Start_Stop();
+        });
+        Debug_Schritt();
+        EXPECT_EQ(Titel, Stop);
+        EXPECT_EQ(Menue("MNU_deb_Starten").Titel, Start);
+        EXPECT_EQ(Werkzeug(24).Hinweis, Start);
+    }
+}
+
 TEST_F(Sitzung_Test, A_run_shows_the_control_panel)
 {
     ASSERT_TRUE(Programm(Kleines));
@@ -687,6 +707,32 @@ TEST_F(Sitzung_Test, A_stop_point_at_the_last_address_is_left_to_address_0)
     Debug_Start_Stop();
     EXPECT_EQ(Sim_PC, 0xFFFF);
     EXPECT_EQ(ACC(), 2);
+}
+
+TEST_F(Sitzung_Test, A_stop_point_at_the_last_address_is_stepped_over_to_address_0)
+{
+    for (const bool Vollgas : {false, true}) {
+        ASSERT_TRUE(Programm("INC A\nLJMP LAST\nORG 0FFFFh\nLAST: STOP\n"));
+        Check2_Click(Vollgas);
+        Debug_Start_Stop();
+        Erwarte_Stelle(0xFFFF, 3, "LAST: STOP");
+        Debug_Schritt();
+        Erwarte_Stelle(0, 3, "INC A");
+        Debug_Start_Stop();
+        Erwarte_Stelle(0xFFFF, 6, "LAST: STOP");
+        EXPECT_EQ(ACC(), 2);
+    }
+}
+
+TEST_F(Sitzung_Test, An_instruction_that_wraps_round_comes_to_a_stop_point_at_address_0)
+{
+    for (const bool Vollgas : {false, true}) {
+        ASSERT_TRUE(Programm("STOP\nLJMP LAST\nORG 0FFFFh\nLAST: INC A\n"));
+        Check2_Click(Vollgas);
+        Debug_Start_Stop();
+        Erwarte_Stelle(0, 3, "STOP");
+        EXPECT_EQ(ACC(), 1);
+    }
 }
 
 TEST_F(Sitzung_Test, The_delay_comes_behind_each_call_of_a_run)
@@ -906,6 +952,31 @@ TEST_F(Sitzung_Test, Downwards_ends_where_no_line_can_be_met)
     EXPECT_EQ(Sim_Zyklen, 0);
 }
 
+TEST_F(Sitzung_Test, Downwards_from_the_last_address_comes_round_to_the_first_line)
+{
+    for (const char* Letzte : {"NOP", "INC 30h", "LJMP LAST"}) {
+        ASSERT_TRUE(Programm("INC A\nORG 0FFFFh\nLAST: " + std::string(Letzte) + "\n"));
+        MNU_CONTROL_Click();
+        Sim_PC = 0xFFFF;
+        Debug_Runter();
+        Erwarte_Stelle(0, 0, "INC A");
+        EXPECT_EQ(Sim_Ansichten.L_Adr, "00000 / 00000h");
+        Debug_Schritt();
+        EXPECT_EQ(ACC(), 1);
+        Debug_Beenden();
+        Fenster_Wert(1, Fenster_CONTROL, Feld::Sichtbar) = 0;
+    }
+}
+
+TEST_F(Sitzung_Test, Downwards_from_the_last_address_passes_a_first_routine_that_is_included)
+{
+    Include_Datei("sub.inc", "SUB1: INC R1\nRET\n");
+    ASSERT_TRUE(Programm("INCLUDE sub.inc\nINC A\nORG 0FFFFh\nNOP\n"));
+    Sim_PC = 0xFFFF;
+    Debug_Runter();
+    Erwarte_Stelle(2, 0, "INC A");
+}
+
 // --- jump to cursor ---
 
 TEST_F(Sitzung_Test, The_cursor_on_a_comment_line_leads_to_the_next_code)
@@ -954,11 +1025,30 @@ TEST_F(Sitzung_Test, The_cursor_anywhere_in_the_text_gives_an_address)
         Text.Auswaehlen(i, 0);
         Debug_Cursor();
         EXPECT_GE(Sim_PC, 0);
-        EXPECT_LE(Sim_PC, 65536);
+        EXPECT_LE(Sim_PC, 65535);
         Erwarte_Angehalten();
     }
     Schritte(2);
     EXPECT_LE(Sim_PC, 65535);
+}
+
+TEST_F(Sitzung_Test, The_cursor_behind_the_end_leads_to_the_first_line)
+{
+    for (const auto& [Ende, Nummer] : {std::pair{"END\nINC R0\nnonsense\n", 4},
+                                       std::pair{"END\nINC R0\nnonsense", 5},
+                                       std::pair{"", 3}})
+        for (const bool Vollgas : {false, true}) {
+            ASSERT_TRUE(Programm("INC A\nINC A\n" + std::string(Ende)));
+            Check2_Click(Vollgas);
+            Debug_Schritt();
+            Cursor_In(Nummer);
+            Debug_Cursor();
+            Erwarte_Stelle(0, 1, "INC A");
+            EXPECT_EQ(Zeile(), 1);
+            Debug_Schritt();
+            Erwarte_Stelle(1, 2, "INC A");
+            EXPECT_EQ(ACC(), 2);
+        }
 }
 
 // --- resets ---

@@ -96,6 +96,20 @@ protected:
         QTest::mouseClick(
             Gitter->Tafel()->viewport(), Taste, {}, Gitter->Tafel()->visualRect(Ort).center());
     }
+    // The second press of a fast pair, as the window system tells it.
+    void Zweiter_Klick(int Zeile, int Spalte, Qt::MouseButton Taste)
+    {
+        QWidget*     Wen = Gitter->Tafel()->viewport();
+        const QPoint Wo  = Gitter->Tafel()->visualRect(Modell()->index(Zeile, Spalte)).center();
+        QMouseEvent  Zweiter(QEvent::MouseButtonDblClick,
+                            QPointF(Wo),
+                            Wen->mapToGlobal(QPointF(Wo)),
+                            Taste,
+                            Taste,
+                            {});
+        QApplication::sendEvent(Wen, &Zweiter);
+        QTest::mouseRelease(Wen, Taste, {}, Wo);
+    }
     // The picture of a cell.
     QImage Bild(int Zeile, int Spalte) const
     {
@@ -600,6 +614,33 @@ TEST_F(RAM_Test, Enter_in_the_address_field_goes_there_and_stores_nothing)
     EXPECT_EQ(Sim_RAM, Vorher);
 }
 
+TEST_F(RAM_Test, a_typed_address_comes_into_sight_with_its_neighbours)
+{
+    Gitter->resize(420, 230);
+    QApplication::processEvents();
+    const auto Zu_Sehen = [this](int Zeile) {
+        return Gitter->Tafel()->viewport()->rect().contains(
+            Gitter->Tafel()->visualRect(Modell()->index(Zeile, Hex)));
+    };
+    for (const int Zeile : {0x90, 0x30}) { // downwards and upwards
+        Tippen(0, Zeile == 0x90 ? "90" : "30");
+        for (int i = -1; i <= 1; ++i)
+            EXPECT_TRUE(Zu_Sehen(Zeile + i)) << Zeile << ' ' << i;
+    }
+    const int Oberste = Gitter->Tafel()->rowAt(0);
+    Tippen(0, "31");
+    EXPECT_EQ(Gitter->Tafel()->rowAt(0), Oberste) << "what is in sight stays where it is";
+}
+
+TEST_F(RAM_Test, after_Enter_the_next_value_takes_the_place_of_the_last_one)
+{
+    Gehe_Zu(0x40, Hex);
+    Tippen(2, "12");
+    QTest::keyClicks(T_Edit(2), QStringLiteral("34"));
+    QTest::keyClick(T_Edit(2), Qt::Key_Return);
+    EXPECT_EQ(Sim_RAM[0x40], 0x34);
+}
+
 TEST_F(RAM_Test, the_name_is_only_shown)
 {
     EXPECT_TRUE(T_Edit(1)->isReadOnly());
@@ -659,6 +700,27 @@ TEST_F(SFR_Test, an_edit_goes_to_the_address_as_it_stands)
     EXPECT_EQ(Sim_RAM[SFR::ACC], 0xAB);
     EXPECT_EQ(Zelle(1, 2), "AB");
     EXPECT_EQ(Sim_RAM[SFR::ACC + 128], static_cast<std::uint8_t>(SFR::ACC + 128));
+}
+
+TEST_F(SFR_Test, a_register_that_lies_in_the_upper_RAM_is_edited_in_its_row)
+{
+    Sim_Ansichten.SFR_Zeilen = {{0x100, "LOW_END"}, {0x17F, "HIGH_END"}, {0x180, "BEYOND"}};
+    ++Sim_Ansichten.Aufbau;
+    Sim_Alles_Zeigen();
+    Gitter->Nachziehen();
+    Gehe_Zu(1, Hex);
+    EXPECT_EQ(Text(0), "17F");
+    Tippen(2, "5A");
+    EXPECT_EQ(Sim_RAM[383], 0x5A);
+    EXPECT_EQ(Zelle(1, 2), "5A");
+    Tippen(3, "1 0 0 0 0 0 0 1");
+    EXPECT_EQ(Sim_RAM[383], 0x81);
+    Klicken(1, 10);
+    EXPECT_EQ(Sim_RAM[383], 0x80);
+    EXPECT_EQ(Zelle(1, 2), "80");
+    Klicken(0, 3);
+    EXPECT_EQ(Sim_RAM[256], 0x80);
+    EXPECT_EQ(Sim_RAM[0], 0) << "no other byte is touched";
 }
 
 TEST_F(SFR_Test, an_edit_of_an_address_without_a_row_is_stored_and_the_strip_goes_back)
@@ -721,21 +783,33 @@ TEST_F(RAM_Test, a_click_on_a_bit_sets_it_and_a_second_one_clears_it)
     }
 }
 
-TEST_F(RAM_Test, the_second_click_of_a_double_click_toggles_as_well)
+TEST_F(RAM_Test, each_press_of_fast_clicks_toggles_the_bit)
 {
-    const QPoint Wo  = Gitter->Tafel()->visualRect(Modell()->index(4, 10)).center();
-    QWidget*     Wen = Gitter->Tafel()->viewport();
-    QTest::mouseClick(Wen, Qt::LeftButton, {}, Wo);
-    EXPECT_EQ(Sim_RAM[4], 5);
-    QMouseEvent Zweiter(QEvent::MouseButtonDblClick,
-                        QPointF(Wo),
-                        Wen->mapToGlobal(QPointF(Wo)),
-                        Qt::LeftButton,
-                        Qt::LeftButton,
-                        {});
-    QApplication::sendEvent(Wen, &Zweiter);
-    QTest::mouseRelease(Wen, Qt::LeftButton, {}, Wo);
-    EXPECT_EQ(Sim_RAM[4], 4);
+    Gitter->Tafel()->scrollTo(Modell()->index(4, 10));
+    for (const int Wert : {5, 4, 5, 4}) { // to Qt every second press is a double click
+        Wert == 5 ? Klicken(4, 10) : Zweiter_Klick(4, 10, Qt::LeftButton);
+        EXPECT_EQ(Sim_RAM[4], Wert);
+    }
+}
+
+TEST_F(RAM_Test, a_double_click_with_another_button_changes_nothing)
+{
+    const auto Vorher = Sim_RAM;
+    for (const auto Taste : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
+        Klicken(4, 10, Taste);
+        Zweiter_Klick(4, 10, Taste);
+        EXPECT_EQ(Sim_RAM, Vorher) << Taste;
+    }
+    Klicken(4, 10);
+    Zweiter_Klick(4, 10, Qt::RightButton);
+    EXPECT_EQ(Sim_RAM[4], 5) << "and takes nothing back";
+}
+
+TEST_F(RAM_Test, fast_clicks_on_two_cells_toggle_each_once)
+{
+    Klicken(4, 10);
+    Zweiter_Klick(4, 9, Qt::LeftButton);
+    EXPECT_EQ(Sim_RAM[4], 7);
 }
 
 TEST_F(RAM_Test, a_click_beside_the_bits_or_with_another_button_changes_nothing)

@@ -34,6 +34,13 @@ constexpr const char* Programm = "INCLUDE 8051.mc\n"
                                  "\tCLR RS0\n"
                                  "\tSJMP loop\n";
 
+// Goes round once for each start.
+constexpr const char* Mit_Ende = "INCLUDE 8051.mc\n"
+                                 "\tMOV 30h,#5\n"
+                                 "loop:\tINC 30h\n"
+                                 "\tSTOP\n"
+                                 "\tSJMP loop\n";
+
 class Sitzung_Test : public Haupt_Welt {
 protected:
     // The main window with that program, its session on.
@@ -134,6 +141,56 @@ TEST_F(Sitzung_Test, a_first_session_shows_all_four_and_its_end_hides_them)
     EXPECT_TRUE(Aktion("MNU_RAM")->isChecked());
     EXPECT_FALSE(Debugger_Aktiv);
     EXPECT_FALSE(Aktion("MNU_deb_Einzelschritt")->isEnabled());
+}
+
+TEST_F(Sitzung_Test, a_session_that_begins_anew_leaves_the_windows_where_the_user_has_put_them)
+{
+    Vorbereiten();
+    auto*       Edit_Fenster = qobject_cast<QMdiSubWindow*>(Suchen("Edit"));
+    auto*       RAM          = qobject_cast<QMdiSubWindow*>(Suchen("F_SIM_RAM"));
+    const QRect Neu(30, 40, 500, 300);
+    RAM->setGeometry(Neu);
+    Edit_Fenster->showMaximized();
+    QTest::keyClick(Edit(), Qt::Key_F4);
+    Folgen();
+    EXPECT_TRUE(Debugger_Aktiv);
+    EXPECT_TRUE(Edit_Fenster->isMaximized());
+    EXPECT_EQ(RAM->geometry(), Neu);
+    EXPECT_EQ(Sim_PC, 0);
+}
+
+TEST_F(Sitzung_Test, a_maximised_editor_makes_room_when_a_session_opens_the_views)
+{
+    Vorbereiten();
+    Aktion("MNU_deb_beenden")->trigger();
+    Folgen();
+    auto*       Edit_Fenster = qobject_cast<QMdiSubWindow*>(Suchen("Edit"));
+    auto*       Notiz        = qobject_cast<QMdiSubWindow*>(Suchen("Notiz"));
+    const QRect Platz        = Edit_Fenster->geometry();
+    const QRect Neu(20, 30, 400, 250);
+    Notiz->show();
+    Notiz->setGeometry(Neu);
+    Edit_Fenster->showMaximized();
+    QTest::keyClick(Edit(), Qt::Key_F4);
+    Folgen();
+    EXPECT_FALSE(Edit_Fenster->isMaximized());
+    EXPECT_EQ(Edit_Fenster->geometry(), Platz);
+    EXPECT_EQ(Notiz->geometry(), Neu) << "what was moved stays there";
+    EXPECT_TRUE(Suchen("F_SIM_RAM")->isVisible());
+}
+
+TEST_F(Sitzung_Test, a_view_comes_to_its_place_when_a_session_opens_it)
+{
+    Vorbereiten();
+    auto*       RAM   = qobject_cast<QMdiSubWindow*>(Suchen("F_SIM_RAM"));
+    const QRect Platz = RAM->geometry();
+    Aktion("MNU_deb_beenden")->trigger();
+    Folgen();
+    RAM->setGeometry(1, 2, 300, 200); // nobody has put it there
+    Aktion("MNU_deb_Vorbereitung")->trigger();
+    Folgen();
+    EXPECT_TRUE(RAM->isVisible());
+    EXPECT_EQ(RAM->geometry(), Platz);
 }
 
 TEST_F(Sitzung_Test, the_titles_are_those_of_the_windows)
@@ -253,6 +310,24 @@ TEST_F(Sitzung_Test, a_step_shows_at_once_and_marks_what_it_changed)
     EXPECT_FALSE(Neu(0x30));
     EXPECT_EQ(Schild("L_Adr"), "00005 / 00005h");
     EXPECT_EQ(Schild("L_Zyklen"), "00003 / 00003h");
+}
+
+TEST_F(Sitzung_Test, the_running_line_has_lines_above_and_below_it_in_sight)
+{
+    std::string Lang = "INCLUDE 8051.mc\nstart:\n";
+    for (int i = 0; i < 120; ++i)
+        Lang += "\tINC A\n";
+    Vorbereiten((Lang + "\tLJMP start\n; one\n; two\n; three\n; four\n").c_str());
+    const int Hoehe = Edit()->viewport()->height() / Edit()->fontMetrics().lineSpacing();
+    ASSERT_GT(Hoehe, 12);
+    for (int i = 0; i < 125; ++i) { // to the end, and back to the start
+        QTest::keyClick(Edit(), Qt::Key_F8);
+        const int Hier  = Edit()->textCursor().blockNumber();
+        const int Erste = static_cast<int>(Edit()->Erste_Zeile());
+        EXPECT_LE(Erste, std::max(Hier - 2, 0)) << i;
+        EXPECT_GE(Erste + Hoehe, Hier + 4) << i;
+        EXPECT_EQ(Edit()->Auswahl_Text(), Sim_PC == 120 ? "LJMP start" : "INC A");
+    }
 }
 
 TEST_F(Sitzung_Test, a_program_that_changes_RS0_moves_the_names)
@@ -469,6 +544,21 @@ TEST_F(Sitzung_Test, the_keys_of_the_panel_work_whichever_control_has_the_focus)
     }
 }
 
+TEST_F(Sitzung_Test, the_end_of_a_session_gives_the_keyboard_back_to_the_editor)
+{
+    for (int i = 0; i < 2; ++i) {
+        Vorbereiten();
+        QWidget* Wer = i == 0 ? Teil<QWidget>("B_Start") : Gitter<F_SIM_RAM>()->Tafel();
+        Wer->setFocus();
+        EXPECT_TRUE(Wer->hasFocus());
+        i == 0 ? QTest::keyClick(Wer, Qt::Key_F10) : Aktion("MNU_deb_beenden")->trigger();
+        Folgen();
+        EXPECT_FALSE(Debugger_Aktiv);
+        EXPECT_TRUE(Edit()->hasFocus()) << i;
+        Datei_Geaendert = false;
+    }
+}
+
 TEST_F(Sitzung_Test, F10_works_on_the_panel_alone)
 {
     Vorbereiten();
@@ -502,6 +592,47 @@ TEST_F(Sitzung_Test, a_held_key_steps_on_but_does_not_start_and_stop)
     Gehalten(Qt::Key_F10);
     EXPECT_EQ(Sim_PC, 3);
     EXPECT_TRUE(Debugger_Aktiv);
+}
+
+TEST_F(Sitzung_Test, F5_held_down_in_the_editor_starts_one_run)
+{
+    Vorbereiten(Mit_Ende);
+    const auto F5 = [this](bool Wiederholt) {
+        QTest::simulateEvent(Edit(), true, Qt::Key_F5, {}, QString(), Wiederholt);
+        Folgen();
+    };
+    Edit()->setFocus();
+    F5(false);
+    EXPECT_EQ(Sim_RAM[0x30], 6);
+    for (int i = 0; i < 5; ++i)
+        F5(true);
+    EXPECT_EQ(Sim_RAM[0x30], 6) << "still the one of the first stroke";
+    QTest::simulateEvent(Edit(), false, Qt::Key_F5, {}, QString(), false);
+    F5(false);
+    EXPECT_EQ(Sim_RAM[0x30], 7);
+}
+
+TEST_F(Sitzung_Test, a_key_held_down_does_not_stop_the_run_that_it_started)
+{
+    Vorbereiten();
+    Edit()->setFocus();
+    int    Wiederholungen = 0;
+    QTimer Hand;
+    QObject::connect(&Hand, &QTimer::timeout, &Hand, [&] {
+        if (!Debug_Laeuft)
+            return;
+        if (Wiederholungen == 10) {
+            Debug_Stop = true;
+            return;
+        }
+        QTest::simulateEvent(Edit(), true, Qt::Key_F5, {}, QString(), true);
+        ++Wiederholungen;
+        EXPECT_FALSE(Debug_Stop) << Wiederholungen;
+    });
+    Hand.start(0);
+    QTest::keyClick(Edit(), Qt::Key_F5);
+    EXPECT_EQ(Wiederholungen, 10);
+    EXPECT_FALSE(Debug_Laeuft);
 }
 
 // --- a running program ---
@@ -553,6 +684,74 @@ TEST_F(Sitzung_Test, each_way_to_start_is_a_way_to_stop)
             EXPECT_FALSE(Debug_Laeuft);
             EXPECT_GE(Gelaufen, 3);
             EXPECT_LT(Gelaufen, 20);
+        }
+}
+
+TEST_F(Sitzung_Test, Esc_stops_a_run_wherever_the_focus_is)
+{
+    Vorbereiten();
+    for (QWidget* Wer : {static_cast<QWidget*>(Edit()),
+                         Teil<QWidget>("B_Start"),
+                         static_cast<QWidget*>(Gitter<F_SIM_RAM>()->Tafel())}) {
+        Wer->setFocus();
+        QTest::keyClick(Wer, Qt::Key_Escape); // nothing runs
+        EXPECT_TRUE(Debugger_Aktiv);
+        EXPECT_FALSE(Debug_Laeuft);
+        int    Gelaufen = 0;
+        QTimer Hand;
+        QObject::connect(&Hand, &QTimer::timeout, &Hand, [&] {
+            if (Debug_Laeuft && ++Gelaufen == 3)
+                QTest::keyClick(Wer, Qt::Key_Escape);
+            if (Gelaufen > 100)
+                Debug_Stop = true;
+        });
+        Hand.start(0);
+        Aktion("MNU_deb_Starten")->trigger();
+        EXPECT_FALSE(Debug_Laeuft);
+        EXPECT_GE(Gelaufen, 3);
+        EXPECT_LT(Gelaufen, 20);
+    }
+}
+
+TEST_F(Sitzung_Test, a_step_into_an_endless_included_routine_is_stopped_like_a_run)
+{
+    std::filesystem::create_directory(Heim + "include");
+    Datei_Anlegen(Heim + "include/sub.inc", "SUB1: INC R0\r\n SJMP SUB1\r\n");
+    Vorbereiten("INCLUDE 8051.mc\n LCALL SUB1\n NOP\n INCLUDE sub.inc\n");
+    const std::string           Ruhe   = Knopf_Bild("Toolbar_Starten");
+    const std::function<void()> Wege[] = {
+        [&] { QTest::mouseClick(Teil<QPushButton>("B_Start"), Qt::LeftButton); },
+        [&] { QTest::keyClick(Edit(), Qt::Key_F5); },
+        [&] { QTest::keyClick(Teil<QWidget>("B_Start"), Qt::Key_F5); },
+        [&] { QTest::keyClick(Edit(), Qt::Key_Escape); },
+        [&] { Aktion("Toolbar_Starten")->trigger(); }};
+    for (const auto& Halt : Wege)
+        for (const bool Lauf : {false, true}) {
+            int    Runden = 0;
+            QTimer Hand;
+            QObject::connect(&Hand, &QTimer::timeout, &Hand, [&] {
+                if (!Programm_Laeuft() || ++Runden < 3)
+                    return;
+                if (Runden > 100)
+                    Debug_Stop = true;
+                if (Runden > 3)
+                    return;
+                EXPECT_EQ(Teil<QPushButton>("B_Start")->text(), QStringLiteral("Stop"));
+                EXPECT_EQ(Aktion("MNU_deb_Starten")->text(), QStringLiteral("Stop"));
+                EXPECT_EQ(Aktion("Toolbar_Starten")->toolTip(), QStringLiteral("Stop"));
+                EXPECT_NE(Knopf_Bild("Toolbar_Starten"), Ruhe);
+                Halt();
+            });
+            Hand.start(0);
+            Aktion(Lauf ? "MNU_deb_Starten" : "MNU_deb_Einzelschritt")->trigger();
+            Hand.stop();
+            EXPECT_FALSE(Programm_Laeuft());
+            EXPECT_TRUE(Debugger_Aktiv);
+            EXPECT_GE(Runden, 3);
+            EXPECT_LT(Runden, 100);
+            EXPECT_EQ(Teil<QPushButton>("B_Start")->text(), QStringLiteral("Start"));
+            EXPECT_EQ(Aktion("MNU_deb_Starten")->text(), QStringLiteral("Start"));
+            EXPECT_EQ(Knopf_Bild("Toolbar_Starten"), Ruhe);
         }
 }
 
