@@ -7,6 +7,7 @@
 #include "core/undo.h"
 #include "core/windows.h"
 #include "editors/Hexablage.h"
+#include "editors/Notiz.h"
 #include "editors/Quelltext.h"
 #include "editors/Quelltext_Sperre.h"
 #include "files/Textdatei.h"
@@ -28,19 +29,13 @@ Textfeld* Offenes_Textfeld()
     return Feld == Plattform.Edit && Debugger_Aktiv ? nullptr : Feld;
 }
 
-// The document has unsaved changes: the flags and the caption of its window.
+// The document has unsaved changes: flags and captions.
 void Geaendert_Markieren(const Textfeld* Feld)
 {
-    if (Feld == Plattform.Edit)
-        return Text_Change();
-    Datei_Geaendert = true;
-    if (Modus == Modus_MC)
-        Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor (*)" + Datei_Name);
-    else
-        Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor (*)" + Datei_Name);
+    Feld == Plattform.Edit ? Text_Change() : Notiz_Change();
 }
 
-// Notes have no undo.
+// The notes' control keeps its own steps.
 void Schritt_Abschliessen(const Textfeld* Feld)
 {
     if (Feld != Plattform.Edit)

@@ -220,7 +220,7 @@ inline Werkzeug_Zustand_T& Werkzeug(int Position)
 
 // --- menu_commands.cpp ---
 
-// True when there is something that the entry runs. What is still to come is shown, and disabled.
+// True when a click on the entry runs a command or opens a menu; a separator has neither.
 bool Menue_Hat_Befehl(std::size_t Platz);
 // Whether a click on it does something: it is enabled and has a command.
 bool Menue_Bereit(std::size_t Platz);

@@ -127,7 +127,7 @@ constexpr auto Hat_Kinder = [] {
     return Nach_Platz;
 }();
 
-// The command of each button by its position; null when it is still to come.
+// The command of each button by its position; null where there is a gap.
 constexpr auto Knopf_Befehle = [] {
     std::array<Befehl_T, Werkzeug_Plaetze + 1> Nach_Position{};
     for (const Werkzeug_Eintrag_T& w : Werkzeug_Tabelle)

@@ -86,9 +86,7 @@ void In_Modus_Wechseln(int Neuer)
 void Ansicht_umschalten()
 {
     Plattform.Ereignisse->Mauszeiger_Warten(true);
-    Undo_Ende  = Undo_Max;
-    Undo_Index = 0;
-    Undo_Oben  = 1;
+    Undo_Ring_Neu(); // whatever comes of it: the next key secures the text as it stands then
     if (Modus == Modus_Hex)
         In_MC_Editor();
     else

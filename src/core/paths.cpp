@@ -2,6 +2,7 @@
 #include "core/paths.h"
 
 #include "core/codepage.h"
+#include "core/data_folder.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -112,11 +113,8 @@ std::string Programm_Pfad_Bestimmen()
     std::error_code Fehler;
     if (!Benutzer.empty())
         fs::create_directories(Benutzer, Fehler);
-    if (!Benutzer.empty() && !Vorlage.empty() && !Haelt_Programmdateien(Benutzer))
-        fs::copy(Vorlage,
-                 Benutzer,
-                 fs::copy_options::recursive | fs::copy_options::skip_existing,
-                 Fehler);
+    if (!Benutzer.empty() && !Vorlage.empty())
+        Ordner_Ergaenzen(Vorlage, Benutzer);
     // A folder that can't be made (read-only home): the installed files serve as they are.
     return Mit_Trenner(Haelt_Programmdateien(Benutzer) || Vorlage.empty() ? Benutzer : Vorlage);
 }

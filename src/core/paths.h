@@ -18,7 +18,7 @@ std::optional<std::filesystem::path> Datei_Suchen(const std::filesystem::path& O
 std::filesystem::path Pfad_Suchen(const std::filesystem::path& Ordner, std::string_view Name);
 // Programm_Pfad by the rules of the house, with a final separator: VARNHOLT_HOME; the folder of
 // the executable when it holds the program's files and can be written; else the user's data folder,
-// which is filled from the installed files at its first use and never overwritten.
+// which gets from the installed files what it lacks (core/data_folder.h).
 std::string Programm_Pfad_Bestimmen();
 
 } // namespace varnholt

@@ -7,6 +7,7 @@
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "core/windows.h"
+#include "editors/Hilfe.h"
 #include "files/Dateizugriff.h"
 #include "programmer/Geraete.h"
 
@@ -201,6 +202,32 @@ bool Lesen(const Tabellen_Wert&, std::string_view Zeile, int Platz)
 }
 std::string Schreiben(const Tabellen_Wert&, int Platz) { return Zahl_Text(Tabellen_Ziel(Platz)); }
 
+// Place of the form `Hilfe`: top, left, height and width with blanks between; empty: not yet known.
+struct Hilfe_Platz {};
+bool Lesen(const Hilfe_Platz&, std::string_view Zeile, int)
+{
+    std::array<int, 4> Zahlen{};
+    for (int& Ziel : Zahlen) {
+        Zeile = Ohne_Leerraum(Zeile);
+        const auto [Ende, Fehler] =
+            std::from_chars(Zeile.data(), Zeile.data() + Zeile.size(), Ziel);
+        if (Fehler != std::errc{})
+            return Zeile.empty() && &Ziel == Zahlen.data();
+        Zeile.remove_prefix(static_cast<std::size_t>(Ende - Zeile.data()));
+    }
+    Hilfe_Merken({Zahlen[0], Zahlen[1], Zahlen[2], Zahlen[3]});
+    return Ohne_Leerraum(Zeile).empty();
+}
+std::string Schreiben(const Hilfe_Platz&, int)
+{
+    const Lage_T      Lage = Hilfe_Lage();
+    const std::string Leer = " ";
+    return Lage.Hoehe <= 0 || Lage.Breite <= 0
+               ? ""
+               : std::to_string(Lage.Oben) + Leer + std::to_string(Lage.Links) + Leer +
+                     std::to_string(Lage.Hoehe) + Leer + std::to_string(Lage.Breite);
+}
+
 struct Reserviert {};
 bool        Lesen(const Reserviert&, std::string_view, int) { return true; }
 std::string Schreiben(const Reserviert&, int) { return "0"; }
@@ -215,6 +242,7 @@ using Wert_T = std::variant<Text_Wert,
                             Wort,
                             Grad,
                             Tabellen_Wert,
+                            Hilfe_Platz,
                             Reserviert>;
 
 struct Zeile_T {
@@ -292,6 +320,7 @@ constexpr auto Eigene = std::to_array<Eigene_T>({
     {"Port_Art", Text_Wert{&o.Port_Art}},
     {"Zoom", Ganzzahl{&o.Zoom, Zoom_Mindestens, Zoom_Hoechstens}},
     {"Hauptfenster", Text_Wert{&o.Hauptfenster}},
+    {"Hilfe", Hilfe_Platz{}},
 });
 
 bool Wert_Lesen(const Wert_T& w, std::string_view Zeile, int Platz)

@@ -4,6 +4,7 @@
 
 #include "core/codepage.h"
 #include "core/commands.h"
+#include "core/data_folder.h"
 #include "core/instance.h"
 #include "core/menu.h"
 #include "core/messages.h"
@@ -330,6 +331,8 @@ void Absturz_Pruefen()
 void Ordner_Pruefen()
 {
     Instanz_Anmelden();
+    if (Instanz.Marke_Gehoert) // no other run writes here, wherever it may be
+        Reste_Entfernen(Programm_Ordner());
     Ordner_Anlegen(Undo_Ordner);
     Ordner_Anlegen("Autosave");
     Absturz_Pruefen();

@@ -37,7 +37,8 @@ void Undo_Schritt_speichern();
 // The counters of a new document; MNU_Undo, MNU_Redo and buttons 14 and 15 off.
 // reads: Undo_Max   sets: the ring, Text_Veraendert, menu, tool bar
 void Undo_Zuruecksetzen();
-// The same for the document in work when the number of steps changes: a changed line stays one.
+// The same for the document in work, when the number of steps changes or a change of the mode
+// begins: a changed line stays one.
 void Undo_Ring_Neu();
 // Undo and Redo in menu and tool bar: by the ring's position, or all off while the text is locked.
 void Undo_Knoepfe_Stellen();

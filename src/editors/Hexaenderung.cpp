@@ -1,4 +1,5 @@
 // The question before the first edit of an image that was made from a source text.
+#include "core/captions.h"
 #include "core/commands.h"
 #include "core/messages.h"
 #include "core/platform.h"
@@ -40,7 +41,7 @@ void Änderung()
     }
     Text_Aktuell    = false;
     Datei_Geaendert = true;
-    Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor (*)" + Datei_Name);
+    Editor_Titel(Fenster_Hexedit, true);
 }
 
 bool Änderung_Erlaubt()

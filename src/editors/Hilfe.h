@@ -1,6 +1,7 @@
 // The form `Hilfe`: a help text of a page or two. (The handbook in HTML is another thing.)
 #pragma once
 
+#include "core/platform.h"
 #include "core/rich_text.h"
 
 #include <string>
@@ -16,6 +17,9 @@ inline struct Hilfe_Form_T {
     Reich_Text_T Text{};
 } Hilfe_Form;
 
+// Its line in the window table, behind those of the child windows; column 0 in both modes.
+inline constexpr int Fenster_Hilfe = 11;
+
 inline void Hilfe_Zuruecksetzen() { Hilfe_Form = {}; }
 
 // The load of the form, at each showing. Layout_Text is the German text that its layout holds, as
@@ -23,5 +27,11 @@ inline void Hilfe_Zuruecksetzen() { Hilfe_Form = {}; }
 // form stays as it is.
 // reads: Sprache, Programm_Pfad   sets: Hilfe_Form
 void Hilfe_Load(std::string_view Layout_Text);
+
+// Where the form stands on the screen; without a size before its first showing.
+// reads: Fenster_Tabelle
+Lage_T Hilfe_Lage();
+// It was moved, or its size was changed.   sets: Fenster_Tabelle
+void Hilfe_Merken(const Lage_T& Neue);
 
 } // namespace varnholt

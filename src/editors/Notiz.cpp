@@ -1,7 +1,7 @@
 // The notes of a document.
 #include "editors/Notiz.h"
 
-#include "core/platform.h"
+#include "core/captions.h"
 #include "core/shared_state.h"
 #include "core/windows.h"
 
@@ -9,11 +9,10 @@ namespace varnholt {
 
 void Notiz_Change()
 {
-    if (Text_Sperre || Datei_Geaendert)
+    if (Text_Sperre)
         return;
     Datei_Geaendert = true;
-    Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor (*)" + Datei_Name);
-    Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor (*)" + Datei_Name);
+    Titel_Geaendert(); // the source may have marked its own editor before
 }
 
 void Notiz_Activate() { Aktives_Fenster = Fenster_Notiz; }

@@ -2,6 +2,7 @@
 // Quelltext_Bearbeiten.cpp.
 #include "editors/Quelltext.h"
 
+#include "core/captions.h"
 #include "core/commands.h"
 #include "core/interface_texts.h"
 #include "core/menu.h"
@@ -49,7 +50,7 @@ void Geaendert_Zeigen()
     if (Datei_Geaendert)
         return;
     Datei_Geaendert = true;
-    Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor (*)" + Datei_Name);
+    Editor_Titel(Fenster_Edit, true);
 }
 
 // The commands of the keys; true when Taste was one of them.

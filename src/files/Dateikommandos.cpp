@@ -2,6 +2,7 @@
 // chosen, and what runs then. Loading, saving and comparing themselves stand beside.
 #include "files/Dateikommandos.h"
 
+#include "core/captions.h"
 #include "core/commands.h"
 #include "core/interface_texts.h"
 #include "core/messages.h"
@@ -137,8 +138,7 @@ void MNU_Neu_Click()
     Leeres_Dokument();
     Undo_Zuruecksetzen();
     Datei_Geaendert = false;
-    Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor ");
-    Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor ");
+    Titel_Gespeichert();
 }
 
 void MNU_Load_Click()
@@ -167,12 +167,15 @@ void MNU_Importdata_Click()
         Datei_Importieren(*Adresse);
 }
 
+// Notes that were changed have marked both editors. (An assembly saves its image without this: the
+// source isn't saved by that.)
 void MNU_Save_Click()
 {
     if (Name_Zu_Erfragen(Datei_Name, Modus))
-        MNU_SaveAs_Click();
-    else
-        Datei_Speichern();
+        return MNU_SaveAs_Click();
+    Datei_Speichern();
+    if (Datei_Fehler == Dateifehler::Keiner)
+        Titel_Gespeichert();
 }
 
 void MNU_SaveAs_Click()

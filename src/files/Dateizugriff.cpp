@@ -2,6 +2,7 @@
 // file before it takes the old one's place.
 #include "files/Dateizugriff.h"
 
+#include "core/data_folder.h"
 #include "core/messages.h"
 
 #include <algorithm>
@@ -138,8 +139,7 @@ int Ziel_Bestimmen(fs::path& Pfad)
 // A name beside Pfad that no file has; short, since the file's own name may be as long as allowed.
 fs::path Zwischenname(const fs::path& Pfad, int Versuch)
 {
-    return Pfad.parent_path() /
-           (".varnholt-" + std::to_string(getpid()) + "-" + std::to_string(Versuch));
+    return Pfad.parent_path() / Zwischen_Name(Versuch);
 }
 
 // Creates the temporary file; its descriptor, or -1 with the reason in errno.

@@ -1,6 +1,7 @@
 // Loading: type, mode, contents, notes, bookkeeping. The formats stand in files of their own.
 #include "files/Laden.h"
 
+#include "core/captions.h"
 #include "core/commands.h"
 #include "core/messages.h"
 #include "core/shared_state.h"
@@ -42,13 +43,14 @@ void Laden_Verbuchen(bool Notiz_Mit_RTF)
     Text_Aktuell       = false;
     Letzte_Dateien();
     Datei_Geaendert = false;
+    Titel_Gespeichert(); // the other editor, too, shows this document from now on
 }
 
 void Bild_Zeigen()
 {
     if (Vergleich_Laeuft)
         return;
-    Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor " + Datei_Name);
+    Editor_Titel(Fenster_Hexedit, false);
     Hex_Anzeige();
 }
 
@@ -162,7 +164,7 @@ void Quelltext_Zeigen()
     }
     Text_Veraendert = false; // a line of the old text that was in work
     Quelltext_Zuruecksetzen();
-    Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor " + Datei_Name);
+    Editor_Titel(Fenster_Edit, false);
     if (!Plattform.Edit->Wird_Gezeigt())
         return;
     Edit_Einfaerben();
@@ -206,7 +208,7 @@ void Teilladen_Aufgeben(const std::string& Bisher)
     Datei_Name = Import_Laeuft || Vergleich_Laeuft ? Bisher : std::string{};
     if (Import_Laeuft || Vergleich_Laeuft)
         return;
-    Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor ");
+    Titel_Gespeichert();
     Undo_Zuruecksetzen();
     Hex_Anzeige();
 }

@@ -1,6 +1,7 @@
 // Saving: contents, notes, bookkeeping. The formats stand in files of their own.
 #include "files/Speichern.h"
 
+#include "core/captions.h"
 #include "core/commands.h"
 #include "core/messages.h"
 #include "core/shared_state.h"
@@ -25,11 +26,7 @@ std::span<const std::uint8_t> Eigentliches_Bild()
     return std::span(Hex_Daten).first(static_cast<std::size_t>(Bild_Groesse));
 }
 
-void Quelle_Speichern()
-{
-    if (Textdatei_Speichern(Datei_Name, *Plattform.Edit, Quell_Datei))
-        Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor " + Datei_Name);
-}
+void Quelle_Speichern() { Textdatei_Speichern(Datei_Name, *Plattform.Edit, Quell_Datei); }
 
 void Intel_Hex_Sichern(std::span<const std::uint8_t> Benutzt)
 {
@@ -63,12 +60,7 @@ void Nach_Typ_Speichern(std::span<const std::uint8_t> Benutzt)
     }
 }
 
-void Bild_Speichern()
-{
-    Nach_Typ_Speichern(Benutzter_Teil(Eigentliches_Bild()));
-    if (Datei_Fehler == Dateifehler::Keiner && !Vergleich_Laeuft)
-        Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor " + Datei_Name);
-}
+void Bild_Speichern() { Nach_Typ_Speichern(Benutzter_Teil(Eigentliches_Bild())); }
 
 // During an assembly the image is saved while the source stays on display.
 void Hauptfenster_Fokus()
@@ -79,8 +71,11 @@ void Hauptfenster_Fokus()
         Plattform.Fenster->Fokus(Fenster_Hexedit);
 }
 
+// Also of a document whose notes could not be written the star stays: this comes behind them.
 void Speichern_Verbuchen()
 {
+    if (!Vergleich_Laeuft)
+        Editor_Titel(Modus == Modus_MC ? Fenster_Edit : Fenster_Hexedit, false);
     if (!Dialog_Name.empty())
         Dialog_Verzeichnis = std::filesystem::path(Dialog_Name).parent_path().string();
     Letzte_Dateien();

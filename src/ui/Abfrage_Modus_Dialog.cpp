@@ -2,7 +2,6 @@
 #include "ui/Abfrage_Modus_Dialog.h"
 
 #include "core/commands.h"
-#include "core/shared_state.h"
 #include "core/startup.h"
 #include "ui/Bilder.h"
 #include "ui/Grosser_Knopf.h"
@@ -16,14 +15,11 @@
 namespace varnholt {
 namespace {
 
-// In English where the language of the settings is none: the dialog has to be readable.
-QString Text(const Festes_Paar& Paar) { return Meldungs_Text(Sprache == "D" ? Paar.D : Paar.E); }
-
 Grosser_Knopf* Modus_Knopf(const char* Name, const Festes_Paar& Paar, const char* Bild)
 {
-    auto* Knopf = new Grosser_Knopf(Text(Paar));
+    auto* Knopf = new Grosser_Knopf(Lesbarer_Text(Paar));
     Knopf->setObjectName(QLatin1String(Name));
-    Knopf->setAccessibleName(Text(Paar));
+    Knopf->setAccessibleName(Lesbarer_Text(Paar));
     Knopf->setIcon(Symbol_Bild(QString::fromLatin1(Bild), Knopf->palette()));
     return Knopf;
 }
@@ -34,8 +30,8 @@ Abfrage_Modus_Dialog::Abfrage_Modus_Dialog(Befehls_Weg Ausfuehren) : Weg(std::mo
 {
     const Abfrage_Modus_Texte_T& t = Abfrage_Modus_Texte;
     setObjectName(QStringLiteral("Abfrage_Modus"));
-    setWindowTitle(Text(t.Titel));
-    auto* Frage = new QLabel(Text(t.Frage));
+    setWindowTitle(Lesbarer_Text(t.Titel));
+    auto* Frage = new QLabel(Lesbarer_Text(t.Frage));
     Frage->setObjectName(QStringLiteral("Frage"));
     Frage->setWordWrap(true);
     auto* Hex   = Modus_Knopf("Button_Mode_1", t.Button_Mode_1, "hex-editor");

@@ -8,7 +8,9 @@
 
 #include <QEvent>
 #include <QFile>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QTextDocument>
 #include <QVBoxLayout>
 
@@ -18,6 +20,8 @@ namespace {
 constexpr int Breite = 660; // of the form at its first showing, pixels
 constexpr int Hoehe  = 620;
 constexpr int Rand   = 18; // around the text
+
+constexpr int Kleinste = 120; // width and height of what must be on the screen of an old place
 
 // The German text belongs to the layout of the form.
 QByteArray Layout_Text()
@@ -42,6 +46,39 @@ Hilfe_Fenster::Hilfe_Fenster(QWidget* Eltern) : QWidget(Eltern), Text(new QTextE
     Ganzes->setContentsMargins(0, 0, 0, 0);
     Ganzes->addWidget(Text);
     resize(Breite, Hoehe);
+    Platz_Nehmen();
+}
+
+// Where it stood the last time, as far as that is on a screen.
+void Hilfe_Fenster::Platz_Nehmen()
+{
+    const Lage_T   Lage   = Hilfe_Lage();
+    const QRect    Alt    = QRect(Lage.Links, Lage.Oben, Lage.Breite, Lage.Hoehe);
+    const QScreen* Schirm = QGuiApplication::screenAt(Alt.center());
+    if (Schirm == nullptr)
+        return;
+    const QRect Sichtbar = Alt & Schirm->availableGeometry();
+    if (Sichtbar.width() >= Kleinste && Sichtbar.height() >= Kleinste)
+        setGeometry(Sichtbar);
+}
+
+void Hilfe_Fenster::Platz_Merken() const
+{
+    const QRect r = geometry();
+    if (isVisible() && !isMinimized() && !isMaximized())
+        Hilfe_Merken({r.top(), r.left(), r.height(), r.width()});
+}
+
+void Hilfe_Fenster::moveEvent(QMoveEvent* Ereignis)
+{
+    QWidget::moveEvent(Ereignis);
+    Platz_Merken();
+}
+
+void Hilfe_Fenster::resizeEvent(QResizeEvent* Ereignis)
+{
+    QWidget::resizeEvent(Ereignis);
+    Platz_Merken();
 }
 
 void Hilfe_Fenster::Laden()

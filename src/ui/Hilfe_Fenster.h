@@ -1,4 +1,5 @@
-// The form `Hilfe`: shows the help text of editors/Hilfe.h. Closed by the user it is hidden.
+// The form `Hilfe`: shows the help text of editors/Hilfe.h. Closed by the user it is hidden. It
+// keeps its place, also to the next run.
 #pragma once
 
 #include <QTextEdit>
@@ -17,8 +18,12 @@ public:
 protected:
     void changeEvent(QEvent* Ereignis) override;
     void keyPressEvent(QKeyEvent* Ereignis) override;
+    void moveEvent(QMoveEvent* Ereignis) override;
+    void resizeEvent(QResizeEvent* Ereignis) override;
 
 private:
+    void Platz_Nehmen();
+    void Platz_Merken() const;
     void Text_Zeigen();
 
     QTextEdit* Text;

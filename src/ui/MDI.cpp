@@ -22,6 +22,7 @@
 #include "ui/F_SIM_EXRAM.h"
 #include "ui/F_SIM_RAM.h"
 #include "ui/F_SIM_SFR.h"
+#include "ui/Feld_Ruecknahme.h"
 #include "ui/Fremd_Hinweis.h"
 #include "ui/Hexedit_Fenster.h"
 #include "ui/Kindfenster.h"
@@ -66,6 +67,7 @@ MDI::MDI()
     setStatusBar(Zeile);
     Welt_Einsetzen();
     Kinder_Verbinden();
+    QCoreApplication::instance()->installEventFilter(new Feld_Ruecknahme(this));
     // Whatever an event has changed is shown before the program waits for the next one.
     connect(QAbstractEventDispatcher::instance(),
             &QAbstractEventDispatcher::aboutToBlock,

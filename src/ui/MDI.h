@@ -134,7 +134,7 @@ private:
     F_SIM_EXRAM*     Sim_EXRAM_Fenster   = nullptr;
     F_SIM_CONTROL*   Sim_CONTROL_Fenster = nullptr;
 
-    std::array<Kindfenster*, 11>            Kinder{};    // by window number; null: still to come
+    std::array<Kindfenster*, 11>            Kinder{};    // by window number; 0 is unused
     std::array<std::unique_ptr<QWidget>, Formular_Anzahl> Formulare{}; // those that stay open
     std::function<void()>                   Ende{};      // empty: the event loop is left
     QPointer<QWidget> Fokus_Vorher{}; // who had the focus when the windows were disabled

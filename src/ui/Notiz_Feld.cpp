@@ -3,6 +3,7 @@
 
 #include "ui/Qt_Text.h"
 #include "ui/Reich_Qt.h"
+#include "ui/Tasten.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -13,14 +14,10 @@
 namespace varnholt {
 namespace {
 
-// Copy, cut, paste, undo and redo, and Del where something is selected.
+// Copy, cut and paste, and Del where something is selected.
 bool Menue_Taste(const QKeyEvent& Taste, bool Auswahl)
 {
-    for (const auto Art : {QKeySequence::Copy,
-                           QKeySequence::Cut,
-                           QKeySequence::Paste,
-                           QKeySequence::Undo,
-                           QKeySequence::Redo})
+    for (const auto Art : {QKeySequence::Copy, QKeySequence::Cut, QKeySequence::Paste})
         if (Taste.matches(Art))
             return true;
     return Auswahl && Taste.key() == Qt::Key_Delete && Taste.modifiers() == Qt::NoModifier;
@@ -36,6 +33,8 @@ bool Schrift_Taste(const QKeyEvent& Taste)
 
 } // namespace
 
+Notiz_Feld::Notiz_Feld(QWidget* Eltern) : Text_Feld(Eltern) { setUndoRedoEnabled(true); }
+
 // --- rich text ---
 
 Reich_Text_T Notiz_Feld::Reicher_Text() const
@@ -46,6 +45,7 @@ Reich_Text_T Notiz_Feld::Reicher_Text() const
 void Notiz_Feld::Reich_Setzen(const Reich_Text_T& Neuer)
 {
     Text_Setzen({});
+    const Ohne_Schritte        Neues_Blatt(*document());
     const QScopedValueRollback Ruhe(Still, true);
     QTextCursor                c(document());
     if (!Neuer.Absaetze.empty())
@@ -171,13 +171,30 @@ bool Notiz_Feld::Gestaltungs_Taste(const QKeyEvent& Taste)
     return true;
 }
 
+// --- undo and redo ---
+
+// The document keeps the steps, with their looks; where there is none the key does nothing.
+bool Notiz_Feld::Ruecknahme_Taste(const QKeyEvent& Taste)
+{
+    const Ruecknahme Was = Ruecknahme_Aus(Taste);
+    if (Was == Ruecknahme::Keine)
+        return false;
+    const bool Zurueck  = Was == Ruecknahme::Zurueck;
+    const bool Moeglich = Zurueck ? document()->isUndoAvailable() : document()->isRedoAvailable();
+    if (!Moeglich || isReadOnly())
+        return true;
+    Zurueck ? undo() : redo();
+    emit Text_Geaendert(); // also where it was the look alone
+    return true;
+}
+
 // --- events ---
 
 bool Notiz_Feld::event(QEvent* Ereignis)
 {
     if (Ereignis->type() == QEvent::ShortcutOverride) {
         const auto& Taste = *static_cast<QKeyEvent*>(Ereignis);
-        if (Schrift_Taste(Taste)) {
+        if (Schrift_Taste(Taste) || Ruecknahme_Aus(Taste) != Ruecknahme::Keine) {
             Ereignis->accept();
             return true;
         }
@@ -191,7 +208,7 @@ bool Notiz_Feld::event(QEvent* Ereignis)
 
 void Notiz_Feld::keyPressEvent(QKeyEvent* Ereignis)
 {
-    if (!Gestaltungs_Taste(*Ereignis))
+    if (!Gestaltungs_Taste(*Ereignis) && !Ruecknahme_Taste(*Ereignis))
         Text_Feld::keyPressEvent(Ereignis);
 }
 

@@ -1,5 +1,6 @@
-// The text control of `Notiz`: rich text. Its editing keys are the menu's, so that they go the same
-// way; Ctrl+B, Ctrl+I and Ctrl+U are its own.
+// The text control of `Notiz`: rich text. The keys of the clipboard are the menu's, so that they go
+// the same way; Ctrl+B, Ctrl+I and Ctrl+U are its own, and so are undo and redo: those of the menu
+// are the source's.
 #pragma once
 
 #include "core/rich_text.h"
@@ -11,7 +12,7 @@ class Notiz_Feld : public Text_Feld {
     Q_OBJECT
 
 public:
-    using Text_Feld::Text_Feld;
+    explicit Notiz_Feld(QWidget* Eltern = nullptr);
 
     Reich_Text_T Reicher_Text() const override;
     void         Reich_Setzen(const Reich_Text_T& Neuer) override;
@@ -45,6 +46,7 @@ protected:
 private:
     void Gestalten(const QTextCharFormat& Dazu);
     bool Gestaltungs_Taste(const QKeyEvent& Taste);
+    bool Ruecknahme_Taste(const QKeyEvent& Taste);
 };
 
 } // namespace varnholt

@@ -2,6 +2,7 @@
 #include "ui/Qt_Text.h"
 
 #include "core/settings.h"
+#include "core/shared_state.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -9,9 +10,15 @@
 #include <algorithm>
 
 namespace varnholt {
+
 QString Meldungs_Text(std::string_view UTF8)
 {
     return Qt_Text(UTF8).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+QString Lesbarer_Text(const Festes_Paar& Paar)
+{
+    return Meldungs_Text(Sprache == "D" ? Paar.D : Paar.E);
 }
 
 QString Qt_Aus_1252(std::string_view Text)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/codepage.h"
+#include "core/interface_texts.h"
 #include "core/messages.h"
 #include "core/platform.h"
 
@@ -23,6 +24,9 @@ inline std::string Nach_Std(const QString& Text) { return Text.toStdString(); }
 
 // A message text: CR LF become line feeds.
 QString Meldungs_Text(std::string_view UTF8);
+// The same of a fixed text, in English where the language of the settings is none: a dialog has to
+// be readable.
+QString Lesbarer_Text(const Festes_Paar& Paar);
 
 // Windows-1252 to UTF-16 and back, unit by unit, so that positions stay; a unit that the code page
 // doesn't have becomes `?`.

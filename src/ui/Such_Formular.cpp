@@ -3,6 +3,7 @@
 
 #include "core/shared_state.h"
 #include "ui/Qt_Text.h"
+#include "ui/Tasten.h"
 
 #include <QAbstractButton>
 #include <QKeyEvent>
@@ -31,7 +32,7 @@ bool Ist_Enter(const QKeyEvent& Taste)
 bool Gilt_Hier(const QKeyEvent& Taste)
 {
     return Ist_F3(Taste) || Taste.key() == Qt::Key_Delete || Taste.matches(QKeySequence::Cut) ||
-           Taste.matches(QKeySequence::Paste);
+           Taste.matches(QKeySequence::Paste) || Ruecknahme_Aus(Taste) != Ruecknahme::Keine;
 }
 
 } // namespace

@@ -74,4 +74,14 @@ Taste_T Taste_Aus(const QKeyEvent& Ereignis)
     return t;
 }
 
+Ruecknahme Ruecknahme_Aus(const QKeyEvent& Ereignis)
+{
+    const bool Strg = Ereignis.modifiers() == Qt::ControlModifier;
+    if ((Strg && Ereignis.key() == Qt::Key_Z) || Ereignis.matches(QKeySequence::Undo))
+        return Ruecknahme::Zurueck;
+    if ((Strg && Ereignis.key() == Qt::Key_Y) || Ereignis.matches(QKeySequence::Redo))
+        return Ruecknahme::Vor;
+    return Ruecknahme::Keine;
+}
+
 } // namespace varnholt

@@ -96,7 +96,7 @@ private:
 
 Text_Feld::Text_Feld(QWidget* Eltern) : QPlainTextEdit(Eltern)
 {
-    setUndoRedoEnabled(false); // the ring of snapshots does it
+    setUndoRedoEnabled(false); // the ring of snapshots does it for the source
     setLineWrapMode(NoWrap);
     connect(document(), &QTextDocument::contentsChange, this, &Text_Feld::Spiegel_Nachfuehren);
     Palette_Setzen();
@@ -327,8 +327,10 @@ std::vector<Farbstelle_T> Text_Feld::Farben(Textstelle_T Gesucht) const
     return Liste;
 }
 
+// A step of before would bring back looks for the other ground.
 void Text_Feld::Farben_Neu_Zeigen()
 {
+    const Ohne_Schritte             Neues_Blatt(*document());
     const std::vector<Farbstelle_T> Alle = Farb_Spiegel;
     Faerben(Alle);
 }

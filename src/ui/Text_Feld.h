@@ -50,6 +50,23 @@ signals:
     void Text_Geaendert(); // the characters changed, by the user or by a command
 
 protected:
+    // While it lives the document keeps no steps for undo, and those that it had are gone.
+    class Ohne_Schritte {
+    public:
+        explicit Ohne_Schritte(QTextDocument& Ganzer_Text)
+            : Text(Ganzer_Text), Vorher(Ganzer_Text.isUndoRedoEnabled())
+        {
+            Text.setUndoRedoEnabled(false);
+        }
+        ~Ohne_Schritte() { Text.setUndoRedoEnabled(Vorher); }
+        Ohne_Schritte(const Ohne_Schritte&)            = delete;
+        Ohne_Schritte& operator=(const Ohne_Schritte&) = delete;
+
+    private:
+        QTextDocument& Text;
+        bool           Vorher;
+    };
+
     void changeEvent(QEvent* Ereignis) override;
     void keyPressEvent(QKeyEvent* Ereignis) override;
     void dragEnterEvent(QDragEnterEvent* Ereignis) override;

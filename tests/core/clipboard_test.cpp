@@ -11,8 +11,10 @@
 #include "core/windows.h"
 #include "editors/Hexedit.h"
 #include "editors/Sprungmarken.h"
+#include "support/Arbeitsordner.h"
 #include "support/scripted_platform.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <stdlib.h>
 
@@ -43,18 +45,12 @@ class Ablage_Welt : public Welt {
 protected:
     Ablage_Welt()
     {
-        std::string Vorlage =
-            (std::filesystem::temp_directory_path() / "varnholt-ablage-XXXXXX").string();
-        if (mkdtemp(Vorlage.data()) == nullptr)
-            throw std::runtime_error("no temporary folder");
-        Ordner = Vorlage;
-        std::filesystem::create_directory(Ordner + "/Undo");
-        Programm_Pfad     = Ordner + "/";
+        std::filesystem::create_directory(Ordner.Pfad / "Undo");
+        Programm_Pfad     = Ordner.Name("");
         Autosave_Zeitlich = false;
         Aktives_Fenster   = Fenster_Edit;
         Undo_Zuruecksetzen();
     }
-    ~Ablage_Welt() override { std::filesystem::remove_all(Ordner); }
 
     void Im_Editor(const std::string& Text, std::int64_t Anfang, std::int64_t Laenge)
     {
@@ -76,7 +72,7 @@ protected:
         EXPECT_EQ(Undo_Index, 0);
     }
 
-    std::string Ordner{};
+    Arbeitsordner Ordner{};
 };
 
 // --- copy ----------------------------------------------------------------------------------------
@@ -147,7 +143,7 @@ TEST_F(Ablage_Welt, cut_takes_a_snapshot_of_the_text_before)
     EXPECT_EQ(Undo_Index, 1);
     EXPECT_EQ(Undo_Oben, 1);
     EXPECT_TRUE(Menue("MNU_Undo").Aktiv);
-    EXPECT_TRUE(std::filesystem::exists(Ordner + "/Undo/Undo 0.rtf"));
+    EXPECT_TRUE(std::filesystem::exists(Ordner.Pfad / "Undo/Undo 0.rtf"));
 }
 TEST_F(Ablage_Welt, cut_in_the_notes_takes_no_snapshot)
 {
@@ -168,19 +164,24 @@ TEST_F(Ablage_Welt, delete_takes_the_selection_and_leaves_the_clipboard)
     EXPECT_EQ(Ablage.Inhalt, "before");
     EXPECT_TRUE(Datei_Geaendert);
 }
-TEST_F(Ablage_Welt, delete_in_the_notes_marks_the_document_of_the_mode)
+TEST_F(Ablage_Welt, commands_in_the_notes_mark_both_editors_in_each_mode)
 {
-    Datei_Name = "/a/x.bin";
-    Modus      = Modus_Hex;
-    In_Den_Notizen("abc", 1, 1);
-    MNU_Löschen_Click();
-    EXPECT_EQ(Notiz.Inhalt, "ac");
-    EXPECT_TRUE(Datei_Geaendert);
-    EXPECT_EQ(Ereignisse.Titel_Texte.back(), "1:Hex-Editor (*)/a/x.bin");
-    Modus = Modus_MC;
-    Notiz.Auswaehlen(0, 1);
-    MNU_Löschen_Click();
-    EXPECT_EQ(Ereignisse.Titel_Texte.back(), "2:MC-Editor (*)/a/x.bin");
+    const std::vector<std::string> Beide = {"1:Hex-Editor (*)/a/x.bin", "2:MC-Editor (*)/a/x.bin"};
+    Datei_Name                           = "/a/x.bin";
+    Ablage.Inhalt                        = "y";
+    for (const int m : {Modus_Hex, Modus_MC})
+        for (const auto Befehl : {MNU_Löschen_Click, MNU_Einfügen_Click, MNU_Ausschneiden_Click}) {
+            Modus = m;
+            Ereignisse.Titel_Texte.clear();
+            Datei_Geaendert = true; // marked before, in one of them perhaps
+            In_Den_Notizen("abc", 1, 1);
+            Befehl();
+            EXPECT_TRUE(Datei_Geaendert);
+            auto Titel = Ereignisse.Titel_Texte;
+            std::sort(Titel.begin(), Titel.end());
+            Titel.erase(std::unique(Titel.begin(), Titel.end()), Titel.end());
+            EXPECT_EQ(Titel, Beide);
+        }
 }
 TEST_F(Ablage_Welt, the_locked_text_of_a_session_is_not_changed)
 {

@@ -8,8 +8,10 @@
 #include "core/undo.h"
 #include "core/views.h"
 #include "core/windows.h"
+#include "editors/Quelltext.h"
 #include "files/Datei_Zustand.h"
 #include "language/Assembler_Zustand.h"
+#include "support/Arbeitsordner.h"
 #include "support/scripted_platform.h"
 
 #include <filesystem>
@@ -125,21 +127,39 @@ TEST_F(Modus_Welt, the_ring_counters_start_anew_even_when_the_mode_stays)
     EXPECT_EQ(Undo_Ende, 9);
     EXPECT_EQ(Undo_Oben, 1);
 }
+TEST_F(Modus_Welt, behind_an_assembly_error_the_next_key_secures_the_text_anew)
+{
+    const Arbeitsordner Ordner;
+    std::filesystem::create_directory(Ordner.Pfad / "Undo");
+    Programm_Pfad   = Ordner.Name("");
+    Aktives_Fenster = Fenster_Edit;
+    Undo_Max        = 9;
+    Undo_Begonnen   = true; // there was typing before
+    Edit.Inhalt     = "LJMP nowhere\r\n";
+    Undo_Schritt_speichern();
+    Ansicht_umschalten();
+    ASSERT_EQ(Modus, Modus_MC);
+    EXPECT_FALSE(Menue("MNU_Undo").Aktiv); // the ring holds nothing any more
+    Taste_T Taste;
+    Taste.Code = Taste.Zeichen = 'X';
+    Text_KeyDown(Taste);
+    Edit.Inhalt = "XLJMP nowhere\r\n";
+    Text_Change();
+    MNU_Undo_Click();
+    EXPECT_EQ(Edit.Inhalt, "LJMP nowhere\r\n");
+}
 TEST_F(Modus_Welt, an_autosave_precedes_the_assembly_when_it_is_wanted)
 {
-    std::string Vorlage =
-        (std::filesystem::temp_directory_path() / "varnholt-modus-XXXXXX").string();
-    ASSERT_NE(mkdtemp(Vorlage.data()), nullptr);
-    std::filesystem::create_directory(Vorlage + "/Autosave");
-    Programm_Pfad = Vorlage + "/";
+    const Arbeitsordner Ordner;
+    std::filesystem::create_directory(Ordner.Pfad / "Autosave");
+    Programm_Pfad = Ordner.Name("");
     Edit.Inhalt   = "NOP\r\n";
     for (const bool Gewuenscht : {false, true}) {
         Autosave_Assemblieren = Gewuenscht;
         In_Modus_Wechseln(Modus_MC);
         Ansicht_umschalten();
-        EXPECT_EQ(std::filesystem::exists(Vorlage + "/Autosave/autosave0.asm"), Gewuenscht);
+        EXPECT_EQ(std::filesystem::exists(Ordner.Pfad / "Autosave/autosave0.asm"), Gewuenscht);
     }
-    std::filesystem::remove_all(Vorlage);
 }
 TEST_F(Modus_Welt, the_hex_page_is_drawn_on_the_way_to_the_Hex_Editor)
 {

@@ -5,7 +5,9 @@
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "core/windows.h"
+#include "editors/Hilfe.h"
 #include "programmer/Geraete.h"
+#include "support/Arbeitsordner.h"
 #include "support/scripted_platform.h"
 
 #include <gtest/gtest.h>
@@ -63,17 +65,7 @@ std::vector<std::string> Volle_Datei()
 
 class Einstellungen : public Welt {
 protected:
-    Einstellungen()
-    {
-        std::string Vorlage = (fs::temp_directory_path() / "varnholt-ini-XXXXXX").string();
-        Ordner              = mkdtemp(Vorlage.data());
-        Programm_Pfad       = Ordner.string() + "/";
-    }
-    ~Einstellungen() override
-    {
-        fs::permissions(Ordner, fs::perms::owner_all);
-        fs::remove_all(Ordner);
-    }
+    Einstellungen() { Programm_Pfad = Eigener.Name(""); }
     fs::path Datei() const { return Ordner / "Varnholt.ini"; }
     void     Ablegen(const std::string& Text) const
     {
@@ -96,7 +88,8 @@ protected:
         return In_Zeilen(Einstellungen_Schreiben())[static_cast<std::size_t>(Nummer - 1)];
     }
 
-    fs::path Ordner{};
+    Arbeitsordner   Eigener{};
+    const fs::path& Ordner = Eigener.Pfad;
 };
 
 // --- the lines by position ---
@@ -454,12 +447,29 @@ TEST_F(Einstellungen, the_zoom_is_drawn_into_its_range)
     }
 }
 
+TEST_F(Einstellungen, the_place_of_the_help_window_comes_back)
+{
+    const std::string Text = Zu_Text(Volle_Datei());
+    EXPECT_EQ(Einstellungen_Lesen(Text + "Hilfe=-5 70 400 300\r\n"), 0);
+    EXPECT_EQ(Hilfe_Lage(), (Lage_T{-5, 70, 400, 300}));
+    EXPECT_EQ(Geschriebene_Zeile(146), "Hilfe=-5 70 400 300");
+    EXPECT_EQ(Einstellungen_Lesen(Text + "Hilfe=\r\n"), 0);
+    EXPECT_EQ(Hilfe_Lage(), Lage_T{});
+    EXPECT_EQ(Geschriebene_Zeile(146), "Hilfe=");
+    EXPECT_EQ(Einstellungen_Lesen(Text + "Hilfe=99999 -99999 1 1\r\n"), 0);
+    EXPECT_EQ(Hilfe_Lage(), (Lage_T{32767, -32768, 1, 1}));
+    for (const char* Schlecht : {"1 2 3", "a", "1 2 3 x", "99999999999 1 1 1", "1;2;3;4"}) {
+        EXPECT_EQ(Einstellungen_Lesen(Text + "Hilfe=" + Schlecht + "\r\n"), 1) << Schlecht;
+        EXPECT_EQ(Hilfe_Lage(), Lage_T{}) << Schlecht;
+    }
+}
+
 TEST_F(Einstellungen, unknown_settings_are_kept_in_their_order)
 {
     const std::string Text = Zu_Text(Volle_Datei());
     EXPECT_EQ(Einstellungen_Lesen(Text + "Neues=1\r\nZoom=150\r\nAnderes=a=b\r\n"), 0);
-    EXPECT_EQ(Geschriebene_Zeile(146), "Neues=1");
-    EXPECT_EQ(Geschriebene_Zeile(147), "Anderes=a=b");
+    EXPECT_EQ(Geschriebene_Zeile(147), "Neues=1");
+    EXPECT_EQ(Geschriebene_Zeile(148), "Anderes=a=b");
 }
 
 TEST_F(Einstellungen, lines_behind_that_are_no_settings_go)
@@ -467,7 +477,7 @@ TEST_F(Einstellungen, lines_behind_that_are_no_settings_go)
     const std::string Text = Zu_Text(Volle_Datei());
     EXPECT_EQ(Einstellungen_Lesen(Text + "Unfug\r\n=3\r\n\r\n" + std::string(5000, 'n') + "=1\r\n"),
               3);
-    EXPECT_EQ(In_Zeilen(Einstellungen_Schreiben()).size(), 145u);
+    EXPECT_EQ(In_Zeilen(Einstellungen_Schreiben()).size(), 146u);
 }
 
 TEST_F(Einstellungen, at_most_100_unknown_settings_are_kept)

@@ -24,6 +24,9 @@
 #include <string>
 #include <vector>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 namespace varnholt::test {
 namespace {
 
@@ -499,6 +502,38 @@ TEST_F(Start_Test, the_folders_undo_and_autosave_are_made)
     Starten();
     EXPECT_TRUE(fs::is_directory(Ordner.Pfad / "Undo"));
     EXPECT_TRUE(fs::is_directory(Ordner.Pfad / "Autosave"));
+}
+
+TEST_F(Start_Test, what_a_killed_run_left_of_its_writes_is_cleared_away)
+{
+    const pid_t Kind = ::fork();
+    if (Kind == 0)
+        ::_exit(0);
+    ::waitpid(Kind, nullptr, 0);
+    const std::string Rest  = ".varnholt-" + std::to_string(Kind) + "-0";
+    const std::string Eines = ".varnholt-" + std::to_string(::getpid()) + "-99";
+    for (const char* Wo : {"", "Autosave/"}) {
+        Datei(Wo + Rest, "half");
+        Datei(Wo + Eines, "being written");
+    }
+    Starten();
+    for (const char* Wo : {"", "Autosave/"}) {
+        EXPECT_FALSE(fs::exists(Ordner.Pfad / (Wo + Rest)));
+        EXPECT_TRUE(fs::exists(Ordner.Pfad / (Wo + Eines)));
+    }
+}
+
+TEST_F(Start_Test, beside_another_run_nothing_is_cleared_away)
+{
+    Datei_Sperre Anderer;
+    ASSERT_EQ(Anderer.Nehmen(Ordner.Pfad / "Varnholt.lock"), Datei_Sperre::Ergebnis::Genommen);
+    const pid_t Kind = ::fork();
+    if (Kind == 0)
+        ::_exit(0);
+    ::waitpid(Kind, nullptr, 0); // here its number is gone; elsewhere it may be a living one
+    const std::string Rest = Datei(".varnholt-" + std::to_string(Kind) + "-0", "being written");
+    Starten();
+    EXPECT_TRUE(fs::exists(Rest));
 }
 
 TEST_F(Start_Test, a_folder_that_cannot_be_made_is_told_and_the_start_goes_on)

@@ -10,6 +10,7 @@
 #include "editors/Hilfe.h"
 #include "files/Rtf.h"
 #include "language/Nachschlage_Texte.h"
+#include "support/Arbeitsordner.h"
 #include "support/scripted_platform.h"
 
 #include <rapidcheck/gtest.h>
@@ -34,13 +35,9 @@ class Nachschlage_Welt : public Welt {
 protected:
     Nachschlage_Welt()
     {
-        std::string Vorlage = (fs::temp_directory_path() / "varnholt-dok-XXXXXX").string();
-        if (mkdtemp(Vorlage.data()) == nullptr)
-            throw std::runtime_error("no temporary folder");
-        Programm_Pfad = Vorlage + "/";
+        Programm_Pfad = Ordner.Name("");
         Sprache       = "D";
     }
-    ~Nachschlage_Welt() override { fs::remove_all(Programm_Pfad); }
 
     static void Anlegen(const std::string& Name, const std::string& Text)
     {
@@ -55,6 +52,8 @@ protected:
         return Text;
     }
     static const Tafel_Zeile_T& Bef_Zeile(std::size_t n) { return Nachschlagen.Bef.Zeilen.at(n); }
+
+    Arbeitsordner Ordner{};
 };
 
 // --- loading `Bef` -------------------------------------------------------------------------------

@@ -523,6 +523,21 @@ TEST_F(Laden_Welt, the_caption_of_the_window_shows_the_name)
     Laden("a.asm", "x");
     EXPECT_EQ(Ereignisse.Titel_Texte.back(), "2:MC-Editor " + Dialog_Name);
 }
+TEST_F(Laden_Welt, both_editors_show_the_document_that_stands_behind_them)
+{
+    const auto Zuletzt = [this](char Nummer) {
+        std::string Titel;
+        for (const std::string& t : Ereignisse.Titel_Texte)
+            if (t.front() == Nummer)
+                Titel = t;
+        return Titel;
+    };
+    for (const char* Name : {"a.asm", "b.bin", "c.asm", "d.hex"}) {
+        Laden(Name, "x");
+        EXPECT_EQ(Zuletzt('1'), "1:Hex-Editor " + Dialog_Name);
+        EXPECT_EQ(Zuletzt('2'), "2:MC-Editor " + Dialog_Name);
+    }
+}
 TEST_F(Laden_Welt, the_hex_page_is_drawn_anew)
 {
     Laden("a.bin", "x");

@@ -251,8 +251,23 @@ private:
         QApplication::processEvents();
     }
 
+    // Of the writes that were killed nothing may lie about in the program's own folders. (A number
+    // may be in use again by another process.)
+    static void Reste_Pruefen(const fs::path& Ordner)
+    {
+        constexpr std::string_view Vorsilbe = ".varnholt-";
+        for (const auto& e : fs::directory_iterator(Ordner)) {
+            const std::string Name   = e.path().filename().string();
+            const bool        Rest   = Name.starts_with(Vorsilbe);
+            const int         Nummer = Rest ? std::atoi(Name.c_str() + Vorsilbe.size()) : 0;
+            Verlangen(!Rest || ::kill(Nummer, 0) == 0, "left behind: " + e.path().string());
+        }
+    }
+
     void Start_Pruefen()
     {
+        Reste_Pruefen(Heim);
+        Reste_Pruefen(Heim + "Autosave");
         Verlangen(Gefragt == !Marke.empty(), "the question about the autosave doesn't fit");
         Verlangen(Letzte_Datei[0].empty() || fs::exists(Letzte_Datei[0]),
                   "no such recent file: " + Letzte_Datei[0]);

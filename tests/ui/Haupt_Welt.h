@@ -14,6 +14,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -95,7 +96,7 @@ private:
     }
 
     QTimer                Uhr{};
-    QWidget*              Letztes = nullptr;
+    QPointer<QWidget>     Letztes{}; // the next one may come to lie where it was
     std::deque<Antwort_T> Liste{};
 };
 

@@ -14,6 +14,7 @@
 #include <QAbstractItemModelTester>
 #include <QHeaderView>
 #include <QMdiArea>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTextEdit>
@@ -388,6 +389,39 @@ TEST_F(Hilfe_Form_Test, closed_it_is_hidden_and_its_next_showing_has_the_languag
     EXPECT_EQ(Erste->pos(), QPoint(70, 80));
     QTest::keyClick(Erste, Qt::Key_Escape);
     EXPECT_FALSE(Fenster->Formular_Sichtbar(Formular::F_Hilfe));
+}
+TEST_F(Hilfe_Form_Test, it_keeps_place_and_size_to_the_next_run)
+{
+    Starten("E");
+    Plattform.Fenster->Formular_Zeigen(Formular::F_Hilfe);
+    Form()->setGeometry(40, 50, 333, 222);
+    QApplication::processEvents();
+    Form()->close();
+    EXPECT_EQ(Hilfe_Lage(), (Lage_T{50, 40, 222, 333}));
+    ASSERT_TRUE(Ende_Erfragen());
+    const std::string Datei = Datei_Inhalt(Heim + "Varnholt.ini");
+    EXPECT_NE(Datei.find("Hilfe=50 40 222 333\r\n"), std::string::npos);
+
+    Fenster.reset();
+    Alles_Zuruecksetzen();
+    Bauen();
+    Fenster->Ausfuehren([] { Init(); });
+    Plattform.Fenster->Formular_Zeigen(Formular::F_Hilfe);
+    EXPECT_EQ(Form()->geometry(), QRect(40, 50, 333, 222));
+}
+TEST_F(Hilfe_Form_Test, a_place_that_is_on_no_screen_any_more_is_not_taken)
+{
+    Starten("E");
+    for (const Lage_T& Weg :
+         {Lage_T{5000, 40, 222, 333}, Lage_T{-500, 10, 520, 333}, Lage_T{10, 10, 50, 50}}) {
+        Hilfe_Merken(Weg);
+        Plattform.Fenster->Formular_Zeigen(Formular::F_Hilfe);
+        EXPECT_GT(Form()->width(), 400);
+        EXPECT_GT(Form()->height(), 400);
+        EXPECT_TRUE(Form()->screen()->geometry().intersects(Form()->geometry()));
+        Plattform.Fenster->Formular_Entladen(Formular::F_Hilfe);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 TEST_F(Hilfe_Form_Test, without_its_file_it_shows_the_text_of_its_layout)
 {

@@ -2,6 +2,7 @@
 #include "core/menu.h"
 #include "core/settings.h"
 #include "core/windows.h"
+#include "editors/Hexedit.h"
 #include "files/Datei_Zustand.h"
 #include "files/Dateikommandos.h"
 #include "files/Rtf.h"
@@ -216,6 +217,87 @@ TEST_F(Feld_Allein, large_notes_load_in_bounded_time)
     EXPECT_EQ(Feld.Zeilen_Anzahl(), 20'000);
 }
 
+// --- undo and redo by keys ---
+
+TEST_F(Feld_Allein, Ctrl_Z_and_Ctrl_Y_take_typing_back_and_bring_it_again)
+{
+    QTest::keyClicks(&Feld, QStringLiteral("one"));
+    QTest::keyClick(&Feld, Qt::Key_Return);
+    QTest::keyClicks(&Feld, QStringLiteral("two"));
+    for (int i = 0; i < 10 && Feld.Laenge() > 0; ++i)
+        Taste(Qt::Key_Z);
+    EXPECT_EQ(Feld.Text(), "");
+    for (int i = 0; i < 10 && Feld.Laenge() < 8; ++i)
+        Taste(Qt::Key_Y);
+    EXPECT_EQ(Feld.Text(), "one\r\ntwo");
+    Taste(Qt::Key_Z);
+    ASSERT_NE(Feld.Text(), "one\r\ntwo");
+    QTest::keyClick(&Feld, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Feld.Text(), "one\r\ntwo");
+}
+TEST_F(Feld_Allein, a_change_of_look_is_a_step_too_and_is_told)
+{
+    Feld.Reich_Setzen(Zeile({{"one", {}}}));
+    Auswahl(0, 3);
+    Taste(Qt::Key_B);
+    QSignalSpy Geaendert(&Feld, &Text_Feld::Text_Geaendert);
+    Taste(Qt::Key_Z);
+    EXPECT_EQ(Feld.Reicher_Text(), Zeile({{"one", {}}}));
+    EXPECT_EQ(Geaendert.size(), 1);
+    Taste(Qt::Key_Y);
+    EXPECT_EQ(Feld.Reicher_Text(), Zeile({{"one", Fett()}}));
+}
+TEST_F(Feld_Allein, what_a_command_did_is_taken_back_with_its_looks_and_colours)
+{
+    const Reich_Text_T Text = Zeile({{"one", Fett()}, {"two", {"", 0, 0xFF, false, true, false}}});
+    Feld.Reich_Setzen(Text);
+    Auswahl(1, 4);
+    Feld.Auswahl_Ersetzen_Reich(Zeile({{"XYZ", {"", 0, 0xFF00, false, false, true}}}));
+    ASSERT_NE(Feld.Reicher_Text(), Text);
+    Taste(Qt::Key_Z);
+    EXPECT_EQ(Feld.Reicher_Text(), Text);
+    EXPECT_EQ(Feld.Farbe_An(3), 0xFF);
+}
+TEST_F(Feld_Allein, a_text_that_was_loaded_has_nothing_ahead_of_it)
+{
+    QTest::keyClicks(&Feld, QStringLiteral("of another document"));
+    Feld.Reich_Setzen(Zeile({{"bold", Fett()}}));
+    QSignalSpy Geaendert(&Feld, &Text_Feld::Text_Geaendert);
+    Taste(Qt::Key_Z);
+    EXPECT_EQ(Feld.Text(), "bold");
+    Feld.Text_Setzen("plain");
+    Taste(Qt::Key_Z);
+    Taste(Qt::Key_Y);
+    EXPECT_EQ(Feld.Text(), "plain");
+    EXPECT_EQ(Geaendert.size(), 0); // a key without a step changes nothing
+    Feld.moveCursor(QTextCursor::End);
+    QTest::keyClicks(&Feld, QStringLiteral("!"));
+    Taste(Qt::Key_Z);
+    EXPECT_EQ(Feld.Text(), "plain");
+}
+TEST_F(Feld_Allein, a_locked_control_takes_nothing_back)
+{
+    QTest::keyClicks(&Feld, QStringLiteral("one"));
+    Feld.Sperren(true);
+    Taste(Qt::Key_Z);
+    EXPECT_EQ(Feld.Text(), "one");
+}
+TEST_F(Feld_Allein, colours_are_light_on_a_dark_ground_whatever_was_taken_back)
+{
+    Feld.Reich_Setzen(Zeile({{"a", {"", 0, 0x800000, false, false, false}}, {"b", {}}}));
+    Auswahl(0, 1);
+    Taste(Qt::Key_B);
+    Feld.Hintergrund_Setzen(0x202020);
+    for (int i = 0; i < 3; ++i)
+        Taste(Qt::Key_Z);
+    QTextCursor c(Feld.document());
+    c.movePosition(QTextCursor::NextCharacter);
+    EXPECT_GT(c.charFormat().foreground().color().lightness(), 150);
+    QTest::keyClicks(&Feld, QStringLiteral("x"));
+    Taste(Qt::Key_Z);
+    EXPECT_EQ(Feld.Text(), "ab");
+}
+
 // Neighbours of one colour, which may differ in the rest of their look, as one.
 std::vector<Farbstelle_T> Verbunden(const std::vector<Farbstelle_T>& Farben)
 {
@@ -245,8 +327,10 @@ RC_GTEST_PROP(Notiz_Feld_Zufall,
             Feld.Auswahl_Faerben(0xFF);
         else if (Zug == 5)
             Feld.Auswahl_Ersetzen_Reich(Feld.Auswahl_Reich());
-        else if (Zug == 6)
+        else if (Zug == 6 && Zuege[i] % 3 == 0)
             Feld.Schlicht_Machen();
+        else if (Zug == 6)
+            QTest::keyClick(&Feld, Zuege[i] % 3 == 1 ? Qt::Key_Z : Qt::Key_Y, Qt::ControlModifier);
         else
             Feld.Kursiv_Umschalten();
         const Reich_Text_T t = Feld.Reicher_Text();
@@ -311,6 +395,279 @@ TEST_F(Notiz_Fenster, typing_and_a_change_of_look_mark_the_document_as_changed)
     Taste(Qt::Key_B, Qt::ControlModifier);
     EXPECT_TRUE(Datei_Geaendert);
 }
+// --- the star in both captions ---
+
+class Sterne : public Notiz_Fenster {
+protected:
+    std::string Titel(const char* Name) const { return Nach_Std(Suchen(Name)->windowTitle()); }
+    void        Beide_Mit_Stern(const std::string& Name) const
+    {
+        EXPECT_EQ(Titel("Edit"), "MC-Editor (*)" + Name);
+        EXPECT_EQ(Titel("Hexedit"), "Hex-Editor (*)" + Name);
+        EXPECT_TRUE(Datei_Geaendert);
+    }
+    void Beide_Ohne(const std::string& Name) const
+    {
+        EXPECT_EQ(Titel("Edit"), "MC-Editor " + Name);
+        EXPECT_EQ(Titel("Hexedit"), "Hex-Editor " + Name);
+        EXPECT_FALSE(Datei_Geaendert);
+    }
+    std::string Laden(const char* Name, const std::string& Inhalt)
+    {
+        const std::string Pfad = Heim + Name;
+        Datei_Anlegen(Pfad, Inhalt);
+        Datei_Vorgegeben_Laden(Pfad);
+        Fenster->Nachziehen();
+        return Pfad;
+    }
+    void In(int Nummer)
+    {
+        Plattform.Fenster->Fokus(Nummer);
+        QApplication::processEvents();
+    }
+    void In_Die_Notizen(const char* Text)
+    {
+        In(Fenster_Notiz);
+        QTest::keyClicks(Feld(), QString::fromLatin1(Text));
+    }
+};
+
+TEST_F(Sterne, notes_mark_both_editors_also_when_the_source_is_marked_already)
+{
+    Beginnen();
+    const std::string Pfad = Laden("a.asm", "NOP\n");
+    Beide_Ohne(Pfad);
+    In(Fenster_Edit);
+    Tippen("x");
+    EXPECT_EQ(Titel("Edit"), "MC-Editor (*)" + Pfad);
+    EXPECT_EQ(Titel("Hexedit"), "Hex-Editor " + Pfad);
+    In_Die_Notizen("hello");
+    Beide_Mit_Stern(Pfad);
+}
+TEST_F(Sterne, notes_mark_both_editors_beside_the_hex_editor_too)
+{
+    Beginnen();
+    const std::string Pfad = Laden("a.bin", "\x01\x02");
+    Beide_Ohne(Pfad);
+    Hex_Daten[0] = 3;
+    Änderung();
+    EXPECT_EQ(Titel("Hexedit"), "Hex-Editor (*)" + Pfad);
+    In_Die_Notizen("x");
+    Beide_Mit_Stern(Pfad);
+    Fenster->Ausfuehren(MNU_Save_Click);
+    Beide_Ohne(Pfad);
+}
+TEST_F(Sterne, clipboard_commands_and_a_change_of_look_in_the_notes_mark_both)
+{
+    Beginnen();
+    const std::string Pfad = Laden("a.asm", "NOP\n");
+    for (const Qt::Key k : {Qt::Key_V, Qt::Key_X, Qt::Key_B, Qt::Key_Z}) {
+        QApplication::clipboard()->setText(QStringLiteral("pasted"));
+        Feld()->Text_Setzen("some notes");
+        In(Fenster_Notiz);
+        Feld()->selectAll();
+        if (k == Qt::Key_Z) {
+            QTest::keyClicks(Feld(), QStringLiteral("y"));
+            Fenster->Ausfuehren(MNU_Save_Click);
+            In(Fenster_Notiz);
+        }
+        Beide_Ohne(Pfad);
+        Taste(k, Qt::ControlModifier);
+        Beide_Mit_Stern(Pfad);
+        Fenster->Ausfuehren(MNU_Save_Click);
+        Beide_Ohne(Pfad);
+    }
+}
+TEST_F(Sterne, the_star_outlives_a_change_of_mode_and_goes_with_a_save)
+{
+    Beginnen();
+    const std::string Pfad = Laden("a.asm", "\tNOP\n");
+    In_Die_Notizen("hello");
+    Beide_Mit_Stern(Pfad);
+    Taste(Qt::Key_F2, Qt::ShiftModifier);
+    ASSERT_EQ(Modus, Modus_Hex);
+    EXPECT_TRUE(Titel("Hexedit").starts_with("Hex-Editor (*)"));
+    EXPECT_TRUE(Datei_Geaendert);
+    Taste(Qt::Key_F1, Qt::ShiftModifier);
+    ASSERT_EQ(Modus, Modus_MC);
+    EXPECT_EQ(Titel("Edit"), "MC-Editor (*)" + Pfad);
+    In_Die_Notizen(" again");
+    Beide_Mit_Stern(Pfad);
+    Fenster->Ausfuehren(MNU_Save_Click);
+    Beide_Ohne(Pfad);
+    Taste(Qt::Key_F2, Qt::ShiftModifier); // in step: nothing is assembled
+    Beide_Ohne(Pfad);
+}
+TEST_F(Sterne, a_save_whose_notes_could_not_be_written_keeps_the_star)
+{
+    Beginnen();
+    const std::string Pfad = Laden("a.asm", "NOP\n");
+    In_Die_Notizen("hello");
+    std::filesystem::create_directory(Heim + "a.not"); // in the way
+    Fenster->Ausfuehren(MNU_Save_Click);
+    Beide_Mit_Stern(Pfad);
+    std::filesystem::remove(Heim + "a.not");
+    Fenster->Ausfuehren(MNU_Save_Click);
+    Beide_Ohne(Pfad);
+}
+TEST_F(Sterne, an_image_written_by_an_assembly_leaves_the_star_of_the_source)
+{
+    Beginnen();
+    C_Auto_Binfile = true;
+    Laden("a.asm", "\tNOP\n");
+    In(Fenster_Edit);
+    Tippen(";");
+    Fenster->Ausfuehren(Assemblieren);
+    EXPECT_TRUE(std::filesystem::exists(Heim + "a.bin"));
+    EXPECT_TRUE(Titel("Edit").starts_with("MC-Editor (*)"));
+    EXPECT_TRUE(Datei_Geaendert);
+}
+TEST_F(Sterne, the_document_holds_together_through_modes_saves_and_undo)
+{
+    Beginnen();
+    const std::string Pfad = Laden("a.asm", "; mine\n\tNOP\n");
+    In(Fenster_Notiz);
+    Taste(Qt::Key_B, Qt::ControlModifier);
+    QTest::keyClicks(Feld(), QStringLiteral("bold"));
+    In(Fenster_Edit);
+    Edit()->moveCursor(QTextCursor::End);
+    Tippen("\tret\n");
+    Beide_Mit_Stern(Pfad);
+    const std::string Quelle = Edit()->Text();
+
+    Taste(Qt::Key_F2, Qt::ShiftModifier);
+    ASSERT_EQ(Modus, Modus_Hex);
+    EXPECT_EQ(Hex_Daten[1], 0x22);
+    EXPECT_FALSE(Aktion("MNU_Undo")->isEnabled());
+    Taste(Qt::Key_F1, Qt::ShiftModifier);
+    ASSERT_EQ(Modus, Modus_MC);
+    EXPECT_EQ(Edit()->Text(), Quelle); // with its comment
+    EXPECT_FALSE(Aktion("MNU_Undo")->isEnabled());
+    EXPECT_EQ(Feld()->Reicher_Text(), Zeile({{"bold", Fett()}}));
+
+    Fenster->Ausfuehren(MNU_Save_Click);
+    Beide_Ohne(Pfad);
+    In(Fenster_Edit);
+    Tippen("; more\n");
+    EXPECT_EQ(Titel("Edit"), "MC-Editor (*)" + Pfad);
+    Taste(Qt::Key_Z, Qt::ControlModifier);
+    Taste(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Edit()->Text(), Quelle);
+    EXPECT_EQ(Titel("Edit"), "MC-Editor (*)" + Pfad);
+    EXPECT_EQ(Feld()->Reicher_Text(), Zeile({{"bold", Fett()}}));
+
+    Datei_Geaendert = false;
+    Datei_Vorgegeben_Laden(Pfad);
+    Beide_Ohne(Pfad);
+    EXPECT_EQ(Edit()->Text(), Quelle);
+    EXPECT_EQ(Feld()->Reicher_Text(), Zeile({{"bold", Fett()}}));
+    Fenster->Nachziehen();
+    EXPECT_FALSE(Aktion("MNU_Undo")->isEnabled());
+}
+TEST_F(Sterne, the_hex_editor_has_its_caption_behind_the_preparation_of_a_session)
+{
+    for (const bool Gleich_Geladen : {true, false}) {
+        Beginnen(); // the sample is the first document of a start
+        if (!Gleich_Geladen)
+            Laden("a.asm", "INCLUDE 8051.mc\n\tNOP\n");
+        const std::string Pfad = Datei_Name;
+        In(Fenster_Edit);
+        Taste(Qt::Key_F4);
+        ASSERT_TRUE(Debugger_Aktiv);
+        Taste(Qt::Key_F2, Qt::ShiftModifier);
+        ASSERT_EQ(Modus, Modus_Hex);
+        EXPECT_NE(Pfad, "");
+        EXPECT_EQ(Titel("Hexedit"), "Hex-Editor " + Pfad);
+    }
+}
+
+// --- undo beside the source's ---
+
+class Ruecknahme_Test : public Notiz_Fenster {
+protected:
+    void Schritte_Machen()
+    {
+        Starten();
+        Aktion("MNU_Neu")->trigger();
+        Tippen("NOP\nRET\n");
+        ASSERT_TRUE(Aktion("MNU_Undo")->isEnabled());
+        Plattform.Fenster->Fokus(Fenster_Notiz);
+        QApplication::processEvents();
+        ASSERT_EQ(Fenster->focusWidget(), Feld());
+    }
+};
+
+TEST_F(Ruecknahme_Test, keys_in_the_notes_take_back_what_was_typed_there_and_never_the_source)
+{
+    Schritte_Machen();
+    const std::string Quelle = Edit()->Text();
+    QTest::keyClicks(Feld(), QStringLiteral("hello"));
+    Taste(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Feld()->Text(), "");
+    for (int i = 0; i < 3; ++i) // nothing is left to be taken back
+        Taste(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Edit()->Text(), Quelle);
+    Taste(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(Feld()->Text(), "hello");
+    EXPECT_EQ(Edit()->Text(), Quelle);
+}
+TEST_F(Ruecknahme_Test, redo_in_the_notes_never_brings_the_source_forward)
+{
+    Schritte_Machen();
+    for (int i = 0; i < 2; ++i) {
+        Aktion("MNU_Undo")->trigger();
+        Fenster->Nachziehen();
+    }
+    ASSERT_TRUE(Aktion("MNU_Redo")->isEnabled());
+    const std::string Quelle = Edit()->Text();
+    Plattform.Fenster->Fokus(Fenster_Notiz);
+    QApplication::processEvents();
+    Taste(Qt::Key_Y, Qt::ControlModifier);
+    Taste(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Edit()->Text(), Quelle);
+    Aktion("MNU_Redo")->trigger(); // by the menu it is the source's wherever the focus is
+    EXPECT_NE(Edit()->Text(), Quelle);
+    EXPECT_EQ(Feld()->Text(), "");
+}
+TEST_F(Ruecknahme_Test, the_steps_of_the_notes_outlive_a_save_and_a_change_of_mode)
+{
+    Schritte_Machen();
+    Datei_Name = Heim + "a.asm";
+    QTest::keyClicks(Feld(), QStringLiteral("hello"));
+    Fenster->Ausfuehren(MNU_Save_Click);
+    Taste(Qt::Key_F2, Qt::ShiftModifier);
+    Taste(Qt::Key_F1, Qt::ShiftModifier);
+    ASSERT_EQ(Modus, Modus_MC);
+    Plattform.Fenster->Fokus(Fenster_Notiz);
+    QApplication::processEvents();
+    Taste(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Feld()->Text(), "");
+    EXPECT_TRUE(Datei_Geaendert);
+}
+TEST_F(Ruecknahme_Test, a_paste_into_the_notes_is_taken_back)
+{
+    Schritte_Machen();
+    QApplication::clipboard()->setText(QStringLiteral("from elsewhere"));
+    Taste(Qt::Key_V, Qt::ControlModifier);
+    ASSERT_EQ(Feld()->Text(), "from elsewhere");
+    Taste(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Feld()->Text(), "");
+}
+TEST_F(Ruecknahme_Test, another_document_has_notes_without_steps)
+{
+    Schritte_Machen();
+    QTest::keyClicks(Feld(), QStringLiteral("hello"));
+    Datei_Geaendert = false;
+    Datei_Anlegen(Heim + "b.asm", "NOP\n");
+    Datei_Vorgegeben_Laden(Heim + "b.asm");
+    Plattform.Fenster->Fokus(Fenster_Notiz);
+    QApplication::processEvents();
+    Taste(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Feld()->Text(), "");
+    EXPECT_FALSE(Datei_Geaendert);
+    EXPECT_EQ(Edit()->Text(), "NOP\r\n");
+}
+
 TEST_F(Notiz_Fenster, a_later_save_writes_the_notes_too_and_a_load_brings_them_back)
 {
     Beginnen();

@@ -1,5 +1,6 @@
 // Texts, colours and fonts at the border to Qt.
 #include "core/codepage.h"
+#include "core/shared_state.h"
 #include "ui/Qt_Text.h"
 
 #include <gtest/gtest.h>
@@ -33,6 +34,16 @@ TEST(Qt_Text, colours_have_their_blue_byte_first)
     EXPECT_EQ(Qt_Farbe(0xC0FFFF), QColor(0xFF, 0xFF, 0xC0));
     for (const std::int32_t f : {0, 0xFF, 0xFF00, 0xFF0000, 0x123456, 0xFFFFFF})
         EXPECT_EQ(Farbe_Aus(Qt_Farbe(f)), f);
+}
+
+TEST(Qt_Text, a_fixed_text_is_readable_in_whatever_language)
+{
+    const std::string Vorher = Sprache;
+    for (const auto& [s, Soll] : {std::pair{"D", "eins\nzwei"}, {"E", "one"}, {"", "one"}}) {
+        Sprache = s;
+        EXPECT_EQ(Nach_Std(Lesbarer_Text({"eins\r\nzwei", "one"})), Soll) << s;
+    }
+    Sprache = Vorher;
 }
 
 TEST(Qt_Text, a_font_without_a_name_is_the_default_one)

@@ -124,6 +124,35 @@ TEST_F(Suche_Fenster_Test, keys_that_edit_the_text_dont_reach_it_from_the_form)
     EXPECT_FALSE(Datei_Geaendert);
 }
 
+TEST_F(Suche_Fenster_Test, undo_and_redo_by_keys_are_the_fields_and_never_the_sources)
+{
+    Edit()->setFocus();
+    Tippen("; one\n; two\n");
+    Aktion("MNU_Undo")->trigger(); // there is something to be redone, too
+    Fenster->Nachziehen();
+    ASSERT_TRUE(Aktion("MNU_Undo")->isEnabled() && Aktion("MNU_Redo")->isEnabled());
+    const std::string Vorher = Edit()->Text();
+    Oeffnen("Suche");
+    for (const char* Name : {"Suchbegriff", "Ersetzen_durch"}) {
+        QLineEdit* f = Feld(Name);
+        f->setFocus();
+        f->clear();
+        f->setModified(false);
+        Text_An(f, "mov");
+        Taste_An(f, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(f->text(), QString()) << Name;
+        Taste_An(f, Qt::Key_Y, Qt::ControlModifier);
+        EXPECT_EQ(f->text(), QStringLiteral("mov")) << Name;
+        Taste_An(f, Qt::Key_Y, Qt::ControlModifier); // nothing is left
+        for (int i = 0; i < 5; ++i)
+            Taste_An(f, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(Edit()->Text(), Vorher) << Name;
+    }
+    Taste_An(Knopf("Suchen_OK"), Qt::Key_Z, Qt::ControlModifier);
+    Taste_An(Knopf("Suchen_OK"), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(Edit()->Text(), Vorher);
+}
+
 // --- messages ---
 
 TEST_F(Suche_Fenster_Test, the_form_makes_way_for_the_message_and_comes_back)
