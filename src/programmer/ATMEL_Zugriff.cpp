@@ -5,7 +5,6 @@
 #include "core/messages.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
-#include "language/Val.h"
 #include "programmer/Baustein.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Brennmenue.h"
@@ -13,8 +12,6 @@
 #include "programmer/MC_Signale.h"
 #include "programmer/Signale.h"
 #include "programmer/Special.h"
-
-#include <algorithm>
 
 namespace varnholt {
 namespace {
@@ -92,21 +89,6 @@ std::uint8_t Byte_Lesen()
     return Wert;
 }
 
-// False when the user gave up.
-bool Alle_Adressen_Lesen()
-{
-    const auto Puffer = static_cast<std::int32_t>(Hex_Puffer.size());
-    const auto Bytes  = std::min(Nutzbare_Bytes(Gewaehltes_Geraet()), Puffer);
-    Prozent_Gezeigt   = 0;
-    for (Adresse_Zaehler = 0; Adresse_Zaehler < Bytes; ++Adresse_Zaehler) {
-        Lese_Fortschritt_Zeigen(Bytes);
-        if (Abbruch)
-            return false;
-        Hex_Puffer[static_cast<std::size_t>(Adresse_Zaehler)] = Byte_Lesen();
-    }
-    return true;
-}
-
 // ---- Program ----
 
 Folge Bereit_Abwarten()
@@ -158,13 +140,6 @@ Folge Adresse_Bearbeiten()
     return f;
 }
 
-// The last address is that of the dialog, whatever No_FF says.
-void Bereich_Setzen()
-{
-    Brenn_Bereich_Setzen();
-    Bis_Adresse = std::min(Val(Brennmenue.BR_LBA_D), Nutzbare_Bytes(Gewaehltes_Geraet()) - 1);
-}
-
 } // namespace
 
 void MC_Pruefen()
@@ -184,7 +159,7 @@ void Tessel1_Lesen()
     Betriebsart(7, Ruhe_Byte);
     Lese_Dialog_Oeffnen();
     Plattform.Status->ProgBar(1);
-    if (!Abbruch && Alle_Adressen_Lesen())
+    if (!Abbruch && MC_Alle_Adressen_Lesen(Byte_Lesen))
         return Lesen_Beenden(Ruhe_Byte);
     Daten_Senden(Ruhe_Byte);
     Lesen_Aufgeben();
@@ -193,7 +168,7 @@ void Tessel1_Lesen()
 void Tessel1_Brennen()
 {
     Betriebsart(5, 65);
-    Bereich_Setzen();
+    Brenn_Bereich_Setzen();
     Folge f = MC_Brennen_Beginnen();
     while (f == Folge::Weiter && Adresse_Zaehler <= Bis_Adresse)
         f = Adresse_Bearbeiten();

@@ -11,8 +11,6 @@
 #include "programmer/Signale.h"
 #include "programmer/Special.h"
 
-#include <algorithm>
-
 namespace varnholt {
 namespace {
 
@@ -79,6 +77,7 @@ bool Kennung_Erfragt(std::string& Typ)
 
 // ---- Read ----
 
+// The byte, and the clocks to the next one.
 std::uint8_t Byte_Lesen()
 {
     Warte_Mikrosekunden(Lese_Zeit());
@@ -87,23 +86,8 @@ std::uint8_t Byte_Lesen()
     Warte_Mikrosekunden(Lese_Zeit());
     const int Ungerade = Tessel2_Ungerade_Bits(Status_Lesen());
     Lese_Takte(1);
+    Lese_Takte(Sprung_Beim_Lesen(Name(), Adresse_Zaehler));
     return static_cast<std::uint8_t>(Gerade + Ungerade);
-}
-
-// False when the user gave up.
-bool Alle_Adressen_Lesen()
-{
-    const auto Puffer = static_cast<std::int32_t>(Hex_Puffer.size());
-    const auto Bytes  = std::min(Nutzbare_Bytes(Gewaehltes_Geraet()), Puffer);
-    Prozent_Gezeigt   = 0;
-    for (Adresse_Zaehler = 0; Adresse_Zaehler < Bytes; ++Adresse_Zaehler) {
-        Lese_Fortschritt_Zeigen(Bytes);
-        if (Abbruch)
-            return false;
-        Hex_Puffer[static_cast<std::size_t>(Adresse_Zaehler)] = Byte_Lesen();
-        Lese_Takte(Sprung_Beim_Lesen(Name(), Adresse_Zaehler));
-    }
-    return true;
 }
 
 // ---- Erase ----
@@ -160,7 +144,7 @@ void Tessel2_Lesen()
     Lese_Takte(Sprung_Vor_Null(Name()));
     Lese_Dialog_Oeffnen();
     Plattform.Status->ProgBar(1);
-    if (!Abbruch && Alle_Adressen_Lesen())
+    if (!Abbruch && MC_Alle_Adressen_Lesen(Byte_Lesen))
         return Lesen_Beenden(Ruhe_Byte_II);
     Daten_Senden(Ruhe_Byte_II);
     Lesen_Aufgeben();

@@ -12,6 +12,7 @@
 #include "programmer/ATMEL_Zugriff.h"
 #include "programmer/Atmel_Zugriff_II.h"
 #include "programmer/Baustein.h"
+#include "programmer/Brennbereich.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/CheckIC.h"
 #include "programmer/EEPROM_Schreiben.h"
@@ -47,6 +48,7 @@ void Paar_Zeigen(std::string& H, std::string& D, std::int64_t Wert)
 void Paar_Text(std::string& H, std::string& D, const Text_Paar& Text) { H = D = In_Sprache(Text); }
 
 const Text_Paar Leer_Text{"LEER", "EMPTY"};
+const Text_Paar Fehler_Text{"FEHLER", "ERROR"};
 
 // Last address below Bytes whose byte isn't FFh; -1 when there is none.
 template <class Feld> std::int32_t Letzte_Belegte(const Feld& Daten, std::int32_t Bytes)
@@ -72,13 +74,25 @@ void DAT00_Text_Setzen()
     B.DAT00_Text = "Brenne alles vor der IC Adresse " + B.BR_EBA_D + "/" + B.BR_EBA_H + " auf 00.";
 }
 
+// A field that shows the word for an error or for an empty editor is no end of a range: whatever
+// changes elsewhere, nothing can be programmed as long as it stands there.
+bool Editor_Bereich_Gueltig()
+{
+    const auto Ist_Wort = [](const std::string& Feld) {
+        return Feld == Leer_Text.D || Feld == Leer_Text.E || Feld == Fehler_Text.D ||
+               Feld == Fehler_Text.E;
+    };
+    return !Ist_Wort(B.ED_EBA_D) && !Ist_Wort(B.ED_LBA_D) && !Ist_Wort(B.ED_IBA_D);
+}
+
 void IC_Felder_Rechnen()
 {
     DAT00_Text_Setzen();
     const std::int64_t Letzte = std::int64_t{Val(B.BR_EBA_D)} + Val(B.ED_IBA_D) - 1;
-    B.Brennen_Aktiv           = Letzte <= Nutzbare_Bytes(Gewaehltes_Geraet()) - 1;
+    const bool         Passt  = Letzte <= Nutzbare_Bytes(Gewaehltes_Geraet()) - 1;
+    B.Brennen_Aktiv           = Passt && Editor_Bereich_Gueltig();
     Paar_Zeigen(B.BR_LBA_H, B.BR_LBA_D, Letzte);
-    if (B.Brennen_Aktiv)
+    if (Passt)
         return;
     B.BR_LBA_H = "ZU  ";
     B.BR_LBA_D = "HOCH  ";
@@ -89,7 +103,7 @@ void Editor_Felder_Rechnen()
     const std::int64_t Weite = std::int64_t{Val(B.ED_LBA_D)} - Val(B.ED_EBA_D);
     B.Brennen_Aktiv          = Weite >= 0;
     if (Weite < 0) {
-        Paar_Text(B.ED_IBA_H, B.ED_IBA_D, {"FEHLER", "ERROR"});
+        Paar_Text(B.ED_IBA_H, B.ED_IBA_D, Fehler_Text);
         return;
     }
     Paar_Zeigen(B.ED_IBA_H, B.ED_IBA_D, Weite + 1);
@@ -185,30 +199,26 @@ void D_Geaendert(std::string& H, std::string& D, std::string_view Text)
     H = Feld_Hex(Val(D));
 }
 
-// The programming routines by the beginning of the program type.
-struct Brenn_Weg_T {
-    std::string_view P_Typ;
-    void (*Routine)();
-};
-
-constexpr Brenn_Weg_T Brenn_Wege[] = {
-    {"87C", Eprom_Brennen},
-    {"27C", Eprom_Brennen},
-    {"27SF", Eprom_Brennen},
-    {"28C", EEPROM_Schreiben},
-    {"28F", Flash_Schreiben},
-    {"29C", Seiten_Schreiben},
-};
-
 // The routine of the selected device; null when it has none.
 auto Brenn_Routine() -> void (*)()
 {
-    for (const Brenn_Weg_T& w : Brenn_Wege)
-        if (Gewaehltes_Geraet().P_Typ.starts_with(w.P_Typ))
-            return w.Routine;
-    if (Gewaehltes_Geraet().Programmer == Board_Nr_Tessel2)
+    switch (Brenn_Weg_Von(Gewaehltes_Geraet())) {
+    case Brenn_Weg::Eprom:
+        return Eprom_Brennen;
+    case Brenn_Weg::EEPROM:
+        return EEPROM_Schreiben;
+    case Brenn_Weg::Flash:
+        return Flash_Schreiben;
+    case Brenn_Weg::Seiten:
+        return Seiten_Schreiben;
+    case Brenn_Weg::Tessel1:
+        return Tessel1_Brennen;
+    case Brenn_Weg::Tessel2:
         return Tessel2_Brennen;
-    return Typ_Auf_Tessel1(Gewaehltes_Geraet().P_Typ) ? Tessel1_Brennen : nullptr;
+    case Brenn_Weg::Keiner:
+        break;
+    }
+    return nullptr;
 }
 
 // Erases first; false when that was given up, which ends the whole command.
@@ -307,15 +317,24 @@ void Splitting_Waehlen(Splitting Wahl)
     B.O_Odd_Splitting  = Wahl == Splitting::Ungerade;
 }
 
-bool Brennen_Bedient() { return Brenn_Routine() != nullptr; }
+bool Brennen_Bedient() { return Brenn_Weg_Von(Gewaehltes_Geraet()) != Brenn_Weg::Keiner; }
+
+Text_Paar Kein_Brennen_Text()
+{
+    const std::string Name = IC_Menue_Name();
+    return {Name + " kann nicht gebrannt werden: für seinen Typ gibt es keine Brennroutine.",
+            Name + " can't be programmed: there is no programming routine for its type."};
+}
 
 void Brennen_Click()
 {
     if (!B.Brennen_Aktiv)
         return;
     Brenn_Ergebnis = Brenn_Ausgang::Nicht_Verfuegbar;
-    if (!Brennen_Bedient())
+    if (!Brennen_Bedient()) {
+        Melden(Kein_Brennen_Text(), {}, Knoepfe::Ok, Symbol::Warnung);
         return;
+    }
     Plattform.Ereignisse->Mauszeiger_Warten(true);
     if (B.Löschen && !Vorher_Gelöscht())
         Ohne_Brennen_Schliessen();

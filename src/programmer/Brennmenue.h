@@ -3,6 +3,8 @@
 // address, IBA number of bytes, GS size; _H hexadecimal, _D decimal.
 #pragma once
 
+#include "core/messages.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -68,8 +70,11 @@ void Splitting_Waehlen(Splitting Wahl);
 
 // True when the selected device's program type has a routine.
 [[nodiscard]] bool Brennen_Bedient();
+// What is said of one that has none.
+[[nodiscard]] Text_Paar Kein_Brennen_Text();
 
-// The buttons. Brennen does nothing while it is disabled; the routine closes the dialog.
+// The buttons. Brennen does nothing while it is disabled, and tells of a device without a routine;
+// else the routine closes the dialog.
 // reads: Brennmenue, the device's types   sets: Brenn_Ergebnis, Brennmenue
 void Brennen_Click();
 void Abbrechen_Click();
@@ -79,7 +84,5 @@ void Weiteres_Click();
 // step with the source text. False when one is missing; a message told why.
 // sets: Antwort, Hex_Daten, Text_Aktuell or Assembler_Fehler
 [[nodiscard]] bool Programm_Bereit();
-void               MNU_IC_Brennen_Click();
-void               MNU_IC_Prüfen_Click();
 
 } // namespace varnholt

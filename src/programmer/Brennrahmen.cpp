@@ -5,7 +5,6 @@
 #include "core/commands.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
-#include "language/Val.h"
 #include "programmer/Baustein.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Brennmenue.h"
@@ -60,21 +59,18 @@ Zelle_T Zelle_Bestimmen()
     Zelle_T z;
     z.Editor_Adresse = Bild_Adresse(
         Adresse_Zaehler, Versatz, Brennmenue.O_Odd_Splitting, Brennmenue.O_Even_Splitting);
-    if (z.Editor_Adresse >= static_cast<std::int64_t>(Hex_Daten.size()))
-        z.Soll = 0xFF;
-    else if (z.Editor_Adresse >= 0)
-        z.Soll = Hex_Daten[static_cast<std::size_t>(z.Editor_Adresse)];
+    z.Soll = Bild_Byte(Hex_Daten, z.Editor_Adresse);
     return z;
 }
 
 void Brenn_Bereich_Setzen()
 {
-    const std::int32_t Letzte = Nutzbare_Bytes(Gewaehltes_Geraet()) - 1;
-    Adresse_Zaehler           = 0;
-    Versuch                   = 1;
-    Ab_Adresse                = Val(Brennmenue.BR_EBA_D);
-    Versatz                   = std::int64_t{Ab_Adresse} - Val(Brennmenue.ED_EBA_D);
-    Bis_Adresse               = No_FF ? std::min(Val(Brennmenue.BR_LBA_D), Letzte) : Letzte;
+    const Brenn_Bereich b = Bereich_Des_Dialogs();
+    Adresse_Zaehler       = 0;
+    Versuch               = 1;
+    Ab_Adresse            = b.Ab;
+    Versatz               = b.Abstand;
+    Bis_Adresse           = b.Bis;
 }
 
 void Brenn_Dialog_Oeffnen()
@@ -133,6 +129,27 @@ Folge Brenn_Runde()
     Brenn_Fortschritt_Zeigen(Bis_Adresse);
     Plattform.Ereignisse->Eine_Runde();
     return Abbruch ? Folge::Abgebrochen : Folge::Weiter;
+}
+
+Folge Eprommer_Adresse_Bearbeiten(Folge (*Schreiben)(const Zelle_T&),
+                                  Folge (*Nachlesen)(const Zelle_T&))
+{
+    if (Versuch == 1)
+        ++Versuch_Statistik[1];
+    const Zelle_T z = Zelle_Bestimmen();
+    Hoch_Bits_Setzen();
+    Folge f = Folge::Weiter;
+    if (No_FF && z.Soll == 0xFF)
+        Daten_Senden(75 - Adj_257);
+    else
+        f = Schreiben(z);
+    if (f == Folge::Weiter)
+        f = Nachlesen(z);
+    if (f != Folge::Weiter || Versuch != 1)
+        return f;
+    Zaehler_Schritt_Brennen();
+    ++Adresse_Zaehler;
+    return f;
 }
 
 void Naechster_Versuch()

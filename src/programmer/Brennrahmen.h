@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/messages.h"
+#include "programmer/Brennbereich.h"
 
 #include <cstdint>
 
@@ -20,23 +21,11 @@ struct Zelle_T {
     std::uint8_t Soll           = 0; // what the device has to hold
 };
 
-// Image index for an IC address: with a split every second byte, from the odd or the even ones.
-constexpr std::int64_t
-Bild_Adresse(std::int64_t Adresse, std::int64_t Abstand, bool Ungerade, bool Gerade)
-{
-    const std::int64_t e = Adresse - Abstand;
-    if (Ungerade)
-        return 2 * e + 1;
-    return Gerade ? 2 * e : e;
-}
-static_assert(Bild_Adresse(5, 3, false, false) == 2 && Bild_Adresse(5, 3, true, false) == 5);
-static_assert(Bild_Adresse(5, 3, false, true) == 4 && Bild_Adresse(0, 1, true, false) == -1);
-
 // Below the editor's start 00h, behind the image FFh, which leaves a cell as it is.
 // reads: Adresse_Zaehler, Versatz, Brennmenue, Hex_Daten
 Zelle_T Zelle_Bestimmen();
 
-// The range of the dialog; Bis_Adresse is the device's end with No_FF off, and never beyond it.
+// The range of the dialog; Bis_Adresse is never beyond the device.
 // reads: Brennmenue, No_FF   sets: Ab_Adresse, Bis_Adresse, Versatz, Adresse_Zaehler, Versuch
 void Brenn_Bereich_Setzen();
 
@@ -56,6 +45,12 @@ Folge Brennlauf_Beginnen();
 // The progress up to Bis_Adresse and a turn of the event loop; Abgebrochen when the user gave up.
 Folge Brenn_Runde();
 
+// One pass over an address on the Eprommer: Schreiben puts the byte into the cell, Nachlesen proves
+// it, and the step to the next address follows when it took. A byte of FFh is only looked at when
+// No_FF says so.
+// reads: No_FF, Hex_Daten   sets: Adresse_Zaehler, Hoch_Bits, Versuch, Versuch_Statistik
+Folge Eprommer_Adresse_Bearbeiten(Folge (*Schreiben)(const Zelle_T& Zelle),
+                                  Folge (*Nachlesen)(const Zelle_T& Zelle));
 // One attempt more at this address.   sets: Versuch, Versuch_Statistik
 void Naechster_Versuch();
 

@@ -21,8 +21,8 @@ constexpr std::string_view Tabelle_Linie   = "--------+------+------\r\n";
 
 std::int32_t Letzte_Beschriebene()
 {
-    std::int32_t u = Nutzbare_Bytes(Gewaehltes_Geraet()) - 1;
-    while (u >= 0 && Hex_Puffer[static_cast<std::size_t>(u)] == 0xFF)
+    auto u = static_cast<std::int32_t>(CheckIC.Baustein.size()) - 1;
+    while (u >= 0 && CheckIC.Baustein[static_cast<std::size_t>(u)] == 0xFF)
         --u;
     return u;
 }
@@ -90,7 +90,8 @@ void Form_Zeigen(bool Ungerade, bool Gerade)
 
 void Form_Schliessen()
 {
-    CheckIC.Offen = false;
+    CheckIC.Offen    = false;
+    CheckIC.Baustein = {};
     Plattform.Fenster->Formular_Entladen(Formular::F_CheckIC);
 }
 
@@ -151,6 +152,8 @@ void CheckIC_Start(bool Ungerade, bool Gerade)
     if (!Baustein_Einlesen())
         return Form_Schliessen();
     Hex_Puffer.resize(Hex_Daten.size(), 0);
+    const auto Bytes = Hex_Puffer.begin() + Nutzbare_Bytes(Gewaehltes_Geraet());
+    CheckIC.Baustein.assign(Hex_Puffer.begin(), Bytes);
     const std::int32_t u = Letzte_Beschriebene();
     CheckIC.Zustand_IC   = In_Sprache(Zustand_Text(u));
     CheckIC.Leer         = u < 0;
@@ -160,9 +163,9 @@ void CheckIC_Start(bool Ungerade, bool Gerade)
 
 void Button_Dat_Click()
 {
-    CheckIC.Text          = Abweichungen_Tabelle(Hex_Puffer,
+    CheckIC.Text          = Abweichungen_Tabelle(CheckIC.Baustein,
                                         Hex_Daten,
-                                        Nutzbare_Bytes(Gewaehltes_Geraet()),
+                                        static_cast<std::int32_t>(CheckIC.Baustein.size()),
                                         CheckIC.Ungerade,
                                         CheckIC.Gerade);
     CheckIC.Text_Sichtbar = true;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace varnholt {
 
@@ -23,6 +24,8 @@ inline struct CheckIC_T {
     bool         Leer             = false; // the device holds nothing but FFh
     std::int32_t Erste_Abweichung = 0;     // address that the comparison reached
     bool         Seiten_Bewiesen  = false; // Hex_Puffer is current and equal; set by the page write
+    std::vector<std::uint8_t>
+        Baustein{}; // what was read: the form stands while others use Hex_Puffer
 } CheckIC;
 
 // How far a comparison came.
@@ -55,7 +58,7 @@ std::string Abweichungen_Tabelle(std::span<const std::uint8_t> Baustein,
 // Reads the device and shows how it relates to the image; a read that is given up closes the form.
 // reads: Hex_Daten, the device's record   sets: CheckIC, Hex_Puffer, Antwort
 void CheckIC_Start(bool Ungerade, bool Gerade);
-// reads: Hex_Puffer, Hex_Daten   sets: CheckIC
+// reads: Hex_Daten   sets: CheckIC
 void Button_Dat_Click();
 // sets: CheckIC, Hex_Puffer
 void Button_OK_Click();

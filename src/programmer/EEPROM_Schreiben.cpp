@@ -4,15 +4,12 @@
 
 #include "core/settings.h"
 #include "core/shared_state.h"
-#include "language/Val.h"
 #include "programmer/Baustein.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Brennmenue.h"
 #include "programmer/Brennrahmen.h"
 #include "programmer/Signale.h"
 #include "programmer/Special.h"
-
-#include <algorithm>
 
 namespace varnholt {
 namespace {
@@ -24,28 +21,11 @@ bool Ist_RAM() { return Gewaehltes_Geraet().Name.starts_with("48"); }
 
 // ---- Preparation ----
 
-// What isn't known to be erased has to be written with FFh as well.
-bool FF_Zu_Schreiben()
-{
-    if (Ist_RAM() || Gewaehltes_Geraet().Name.starts_with("M28"))
-        return true;
-    const bool Leer = Brennmenue.IC_LBA_D == "EMPTY" || Brennmenue.IC_LBA_D == "LEER";
-    return !Brennmenue.Löschen && !Leer;
-}
-
-void Bereich_Setzen()
-{
-    if (FF_Zu_Schreiben())
-        No_FF = false;
-    Brenn_Bereich_Setzen();
-    if (Ist_RAM())
-        Bis_Adresse = std::min(Val(Brennmenue.BR_LBA_D), Nutzbare_Bytes(Gewaehltes_Geraet()) - 1);
-}
-
 void Lauf_Einrichten()
 {
     const Geraet_T& g = Gewaehltes_Geraet();
-    Bereich_Setzen();
+    No_FF             = Bereich_Des_Dialogs().Ohne_FF;
+    Brenn_Bereich_Setzen();
     Alt_Byte = Unbekannt;
     Bank     = 0;
     Adj_512  = 0;

@@ -3,7 +3,6 @@
 #include "programmer/Eprom_zugriff.h"
 
 #include "core/settings.h"
-#include "core/shared_state.h"
 #include "programmer/Baustein.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Brennmenue.h"
@@ -107,32 +106,11 @@ Folge Laden_Und_Brennen(const Zelle_T& z)
     return Geladen == Folge::Weiter ? Puls_Geben() : Geladen;
 }
 
-// One pass of the main loop: an attempt at one address, and the step to the next when it took.
-Folge Adresse_Bearbeiten()
-{
-    if (Versuch == 1)
-        ++Versuch_Statistik[1];
-    const Zelle_T z = Zelle_Bestimmen();
-    Hoch_Bits_Setzen();
-    Folge f = Folge::Weiter;
-    if (No_FF && z.Soll == 0xFF)
-        Daten_Senden(75 - Adj_257);
-    else
-        f = Laden_Und_Brennen(z);
-    if (f == Folge::Weiter)
-        f = Nachlesen(z);
-    if (f != Folge::Weiter || Versuch != 1)
-        return f;
-    Zaehler_Schritt_Brennen();
-    ++Adresse_Zaehler;
-    return f;
-}
-
 Folge Hauptschleife()
 {
     Folge f = Folge::Weiter;
     while (f == Folge::Weiter && Adresse_Zaehler <= Bis_Adresse)
-        f = Adresse_Bearbeiten();
+        f = Eprommer_Adresse_Bearbeiten(Laden_Und_Brennen, Nachlesen);
     return f;
 }
 

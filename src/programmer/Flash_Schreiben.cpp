@@ -3,7 +3,6 @@
 #include "programmer/Flash_Schreiben.h"
 
 #include "core/settings.h"
-#include "core/shared_state.h"
 #include "programmer/Baustein.h"
 #include "programmer/Brennrahmen.h"
 #include "programmer/Signale.h"
@@ -90,28 +89,6 @@ Folge Nachlesen(const Zelle_T& z)
     return Folge::Weiter;
 }
 
-// One pass of the main loop: an attempt at one address, and the step to the next when it took. A
-// byte of FFh is only looked at when No_FF says so.
-Folge Adresse_Bearbeiten()
-{
-    if (Versuch == 1)
-        ++Versuch_Statistik[1];
-    const Zelle_T z = Zelle_Bestimmen();
-    Hoch_Bits_Setzen();
-    Folge f = Folge::Weiter;
-    if (No_FF && z.Soll == 0xFF)
-        Daten_Senden(75);
-    else
-        f = Byte_Schreiben(z);
-    if (f == Folge::Weiter)
-        f = Nachlesen(z);
-    if (f != Folge::Weiter || Versuch != 1)
-        return f;
-    Zaehler_Schritt_Brennen();
-    ++Adresse_Zaehler;
-    return f;
-}
-
 } // namespace
 
 void Flash_Byte_Laden(std::uint8_t Wert) { Byte_Schieben(Wert, 89); }
@@ -129,7 +106,7 @@ void Flash_Schreiben()
 {
     Folge f = Vorbereiten();
     while (f == Folge::Weiter && Adresse_Zaehler <= Bis_Adresse)
-        f = Adresse_Bearbeiten();
+        f = Eprommer_Adresse_Bearbeiten(Byte_Schreiben, Nachlesen);
     Brennlauf_Beenden(f, 90);
 }
 

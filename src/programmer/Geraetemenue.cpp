@@ -30,8 +30,7 @@ constexpr Versions_Wahl Tessel2_Wahl{
     {"Welche Version des Tessel2 programmer nutzen Sie? (Die Versionsnummer können Sie auf der "
      "Platine finden)",
      "Which version of the Quelmark Tessel2 programmer do you use? (You can find the version "
-     "number "
-     "on the layout)"},
+     "number on the layout)"},
     {{{"Version 1.0", "Version 1.0"},
       {"Version 1.1", "Version 1.1"},
       {"Version 1.2", "Version 1.2"}}},
@@ -52,7 +51,7 @@ void Simuliertes_Board_Wechseln()
     Port_Neu_Oeffnen();
 }
 
-// The check needs the version of this board; without an answer nothing is chosen.
+// The check needs the version of this board; without an answer the choice from before stays.
 bool Version_Bekannt(int Board) { return Board != Board_Nr_Tessel2 || Tessel2_Version_Erfragen(); }
 
 // The jumpers follow the version of the board, and that of the newest where it stays unknown.
@@ -61,6 +60,22 @@ void Jumper_Zeigen()
     static_cast<void>(Eprommer_Version_Erfragen());
     Jumper_Anzeige();
 }
+
+// The device against its board, and its entry in the menu; false where the board can't serve it.
+bool Auswahl_Pruefen(int Nummer)
+{
+    IC_Waehlen(Nummer);
+    if (Abbruch) {
+        Auswahl_Abnehmen();
+        return false;
+    }
+    Geraetemenue.Haken = Nummer;
+    IC_Titel_Zeigen();
+    IC_Befehle_Schalten();
+    return true;
+}
+
+int Board_Nr() { return Gewaehltes_Geraet().Programmer; }
 
 } // namespace
 
@@ -104,14 +119,23 @@ bool Tessel2_Version_Erfragen()
     return Tessel2_Version != 0;
 }
 
+// Jumpers that are on show become those of the new version.
 void MNU_Hardware_Version_Click()
 {
+    const int Bisher = Eprommer_Version;
     Plattform.Fenster->Formular_Zeigen(Formular::F_Wahl_Eprommer_Version);
+    if (Eprommer_Version != Bisher && Board_Nr() == Board_Nr_Eprommer &&
+        Plattform.Fenster->Formular_Sichtbar(Formular::F_Jumper))
+        Jumper_Anzeige();
 }
 
+// The new version may be too old for the device, or the first one with jumper J1.
 void MNU_Tessel2_Hardware_Version_Click()
 {
+    const int Bisher = Tessel2_Version;
     Plattform.Fenster->Formular_Zeigen(Formular::F_Wahl_Tessel2_Version);
+    if (Tessel2_Version != Bisher && Board_Nr() == Board_Nr_Tessel2)
+        MNU_Typ_Check();
 }
 
 void MNU_IC_Typ_Click(int Gruppe, int Platz)
@@ -120,24 +144,20 @@ void MNU_IC_Typ_Click(int Gruppe, int Platz)
     if (Gruppe < 0 || Gruppe >= Gruppen_Anzahl || Platz < 0 ||
         Platz >= Geraete.Gruppen_Belegt[static_cast<std::size_t>(Gruppe)])
         return;
-    const int Board = Geraete_Tabelle[static_cast<std::size_t>(Nummer)].Programmer;
-    if (!Version_Bekannt(Board))
-        return Auswahl_Abnehmen();
-    IC_Waehlen(Nummer);
-    if (Abbruch)
-        return Auswahl_Abnehmen();
-    Geraetemenue.Haken = Nummer;
-    IC_Titel_Zeigen();
-    IC_Befehle_Schalten();
+    if (!Version_Bekannt(Geraet_Mit_Nummer(Nummer).Programmer) || !Auswahl_Pruefen(Nummer))
+        return;
     Simuliertes_Board_Wechseln();
-    if (Board == Board_Nr_Eprommer)
+    if (Board_Nr() == Board_Nr_Eprommer)
         Jumper_Zeigen();
 }
 
+// The part in the simulated socket stays: it is the same device.
 void MNU_Typ_Check()
 {
-    if (IC_Nummer >= 0)
-        MNU_IC_Typ_Click(IC_Nummer / Gruppen_Plaetze, IC_Nummer % Gruppen_Plaetze);
+    if (IC_Nummer < 0 || !Version_Bekannt(Board_Nr()) || !Auswahl_Pruefen(IC_Nummer))
+        return;
+    if (Board_Nr() == Board_Nr_Eprommer)
+        Jumper_Zeigen();
 }
 
 // --- the form `Jumper` ---
@@ -172,8 +192,6 @@ void Jumper_Anzeige()
         return;
     Jumper.Titel   = In_Sprache({"Jumper Einstellungen ", "Jumper settings "});
     Jumper.Version = Eprommer_Version_Gueltig();
-    // The newest layout has no jumper 0 on its picture.
-    Jumper.Ohne_Null = Jumper.Version == 32;
     Jumper.Hinweis.clear();
     if (Ist_Test()) {
         Jumper.Stellung =
@@ -184,6 +202,8 @@ void Jumper_Anzeige()
         if (Gewaehltes_Geraet().P_Typ == "27C080")
             Jumper.Hinweis = In_Sprache(Hinweis_27C080());
     }
+    // On the newest layout jumper 0 is there for the parts of the note alone.
+    Jumper.Ohne_Null = Jumper.Version == 32 && Jumper.Hinweis.empty();
     ++Jumper.Stand;
     Plattform.Fenster->Formular_Zeigen(Formular::F_Jumper);
 }

@@ -24,14 +24,15 @@ inline struct Jumper_T {
     std::string                    Titel{};          // UTF-8
     std::array<int, Jumper_Anzahl> Stellung{};       // 1 to 3; 0: nothing to set
     int                            Version   = 32;   // of the board's picture: 30, 31, 32
-    bool                           Ohne_Null = true; // version 32 has no jumper 0 to set
+    bool                           Ohne_Null = true; // version 32 needs jumper 0 for a 27C080 only
     std::string                    Hinweis{};        // empty: none
     int                            Stand = 0;        // counts changes
 } Jumper;
 
 void Geraetemenue_Zuruecksetzen();
 
-// An entry of the menu MNU_IC_Typ: group 0 to 19 and position in it.
+// An entry of the menu MNU_IC_Typ: group 0 to 19 and position in it. The choice from before stays
+// where the version of the board is asked for and not told.
 // reads: Geraete_Tabelle, hardware versions   sets: IC_Nummer, Abbruch, menu, Jumper
 void MNU_IC_Typ_Click(int Gruppe, int Platz);
 

@@ -1,21 +1,10 @@
-// The hardware tests of the Eprommer: patterns, questions and advice.
-#include "programmer/Hardware_Test_Texte.h"
+// The hardware tests of the Eprommer: its patterns and their questions.
+#include "programmer/Brennrahmen.h"
 #include "programmer/Hardware_Tests.h"
 #include "programmer/Signale.h"
 
 namespace varnholt {
 namespace {
-
-// Eight alternating bits into the 74HC595, Erstes being the one that goes in first, each with the
-// strobe that puts what is in it on the outputs.
-void Muster_Schieben(int Erstes)
-{
-    int b = Erstes;
-    for (int i = 0; i < 8; ++i) {
-        Daten_Senden({91 + b, 123 + b, 27, 91, 27});
-        b ^= 128;
-    }
-}
 
 void Zaehler_Hoch()
 {
@@ -37,51 +26,22 @@ void Verbindungen_Null()
     Steuerung_Senden(11);
 }
 
-#define RAT_KABEL_D                                                                                  \
-    "Bitte überprüfen Sie die Verbindung des Parallelportkabels.\r\nBitte überprüfen Sie auch, " \
-    "ob "                                                                                            \
-    "in den Optionen die richtige Portadresse eingestellt ist und ob der Eprommer mit Spannung "     \
-    "versorgt wird."
-#define RAT_KABEL_E                                                                                \
-    "Please check the parallel port cable.\r\nPlease check too, if the port address in the "       \
-    "options "                                                                                     \
-    "is correct and if the eprommer has power."
-
-constexpr Mess_Schritt Diagnose[] = {
-    {[] { Daten_Senden(251); }, Frage_595_Hoch, {RAT_KABEL_D, RAT_KABEL_E}},
-    {[] { Daten_Senden(27); },
-     Frage_595_Null,
-     {RAT_KABEL_D "\r\nBitte überprüfen Sie zudem die Verbindungen zwischen den beiden Bausteinen.",
-      RAT_KABEL_E "\r\nPlease check the connections between the two ics too."}},
-    {[] { Muster_Schieben(128); }, Frage_Muster, Rat_595},
-    {[] { Muster_Schieben(0); }, Frage_Gegenmuster, Rat_595},
-};
-
 constexpr Mess_Schritt Spannungen[] = {
     {[] { Daten_Senden(91); },
      {"Bitte messen Sie die Spannung an den Pins 1, 3 und 24 der Brennfassung. Alle Spannungen "
-      "sollten "
-      "ca. 0 Volt betragen. Ist dieses der Fall?",
+      "sollten ca. 0 Volt betragen. Ist dieses der Fall?",
       "Please measure the voltage at the pins 1, 3 and 24 of the socket. Is the voltage at all of "
-      "these "
-      "pins about 0 volt?"},
-     {}},
+      "these pins about 0 volt?"}},
     {[] { Daten_Senden(90); },
      {"Bitte messen Sie ERNEUT die Spannung an den Pins 1, 3 und 24 der Brennfassung. Alle "
-      "Spannungen "
-      "sollten nun zwischen 3-5 Volt betragen. Ist dieses der Fall?",
+      "Spannungen sollten nun zwischen 3-5 Volt betragen. Ist dieses der Fall?",
       "Please measure AGAIN the voltage at the pins 1, 3 and 24 of the socket. Is the voltage at "
-      "all of "
-      "these pins between 3 and 5 volt?"},
-     {}},
+      "all of these pins between 3 and 5 volt?"}},
     {[] { Daten_Senden(88); },
      {"Bitte messen Sie ERNEUT die Spannung an den Pins 1, 3 und 24 der Brennfassung. Alle "
-      "Spannungen "
-      "sollten nun ca. 12,5 Volt betragen. Ist dieses der Fall?",
+      "Spannungen sollten nun ca. 12,5 Volt betragen. Ist dieses der Fall?",
       "Please measure AGAIN the voltage at the pins 1, 3 and 24 of the socket. Is the voltage at "
-      "all of "
-      "these pins about 12.5 volt?"},
-     {}},
+      "all of these pins about 12.5 volt?"}},
 };
 
 constexpr Mess_Schritt Zaehler[] = {
@@ -89,36 +49,25 @@ constexpr Mess_Schritt Zaehler[] = {
      {"Bitte messen Sie die Spannung an den Pins 3 bis 12 und 25 bis 29 der Brennfassung. Alle "
       "Spannungen sollten ca. 5 Volt betragen. Ist dieses der Fall?",
       "Please measure the voltage at the pins 3 to 12 and 25 to 29 of the socket. Is the voltage "
-      "at all "
-      "of these pins about 5 volt?"},
-     {}},
+      "at all of these pins about 5 volt?"}},
     {Test_Zaehler_Ruecksetzen,
      {"Bitte messen Sie ERNEUT die Spannung an den Pins 3 bis 12 und 25 bis 29 der Brennfassung. "
-      "Alle "
-      "Spannungen sollten nun ca. 0 Volt betragen. Ist dieses der Fall?",
+      "Alle Spannungen sollten nun ca. 0 Volt betragen. Ist dieses der Fall?",
       "Please measure AGAIN the voltage at the pins 3 to 12 and 25 to 29 of the socket. Is the "
-      "voltage "
-      "at all of these pins about 0 volt?"},
-     {}},
+      "voltage at all of these pins about 0 volt?"}},
 };
 
 constexpr Mess_Schritt Verbindungen[] = {
     {Verbindungen_Hoch,
      {"Bitte messen Sie die Spannung an den Pins 2, 24, 29, 30 und 31 der Brennfassung. Alle "
-      "Spannungen "
-      "sollten zwischen 3-5 Volt betragen. Ist dieses der Fall?",
+      "Spannungen sollten zwischen 3-5 Volt betragen. Ist dieses der Fall?",
       "Please measure the voltage at the pins 2, 24, 29, 30 and 31 of the socket. Is the voltage "
-      "at all "
-      "of these pins between 3 and 5 volt?"},
-     {}},
+      "at all of these pins between 3 and 5 volt?"}},
     {Verbindungen_Null,
      {"Bitte messen Sie ERNEUT die Spannung an den Pins 2, 24, 29, 30 und 31 der Brennfassung. "
-      "Alle "
-      "Spannungen sollten nun 0 Volt betragen. Ist dieses der Fall?",
+      "Alle Spannungen sollten nun 0 Volt betragen. Ist dieses der Fall?",
       "Please measure AGAIN the voltage at the pins 2, 24, 29, 30 and 31 of the socket. Is the "
-      "voltage "
-      "at all of these pins 0 volt?"},
-     {}},
+      "voltage at all of these pins 0 volt?"}},
 };
 
 constexpr Mess_Test Tests[] = {
@@ -128,20 +77,17 @@ constexpr Mess_Test Tests[] = {
          Daten_Senden({90, 91});
      },
      {"TEST 2 OKAY!", "TEST 2 OKAY!"},
-     {"Die Brennspannung wird korrekt eingestellt, somit arbeiten auch die Transistoren und Dioden "
-      "der "
-      "Spannungsumschaltung. Es folgt nun der Test der Adresszähler.",
+     {"Die Brennspannung wird korrekt eingestellt, somit arbeiten auch die Transistoren und "
+      "Dioden der Spannungsumschaltung. Es folgt nun der Test der Adresszähler.",
       "The programming voltage is regulated correctly, so the transistors and diodes of the "
-      "voltage "
-      "switch work. The next test checks the address counters."},
+      "voltage switch work. The next test checks the address counters."},
      {"TEST 2 FAILED!", "TEST 2 FAILED!"},
-     {"Die Brennspannung wird nicht korrekt eingestellt. Bitte überprüfen Sie den korrekten Einbau "
-      "der "
-      "Transitoren und Dioden, sowie die Werte der Widerstände (R1-R4 und R6). Messen Sie auch die "
-      "Spannung des Netzteils.",
+     {"Die Brennspannung wird nicht korrekt eingestellt. Bitte überprüfen Sie den korrekten "
+      "Einbau der Transitoren und Dioden, sowie die Werte der Widerstände (R1-R4 und R6). Messen "
+      "Sie auch die Spannung des Netzteils.",
       "The programming voltage is NOT regulated correctly! Please check the transistors, diodes "
-      "and the "
-      "values of the resistors R1-R4 and R6. Measure the voltage of the power supply too."}},
+      "and the values of the resistors R1-R4 and R6. Measure the voltage of the power supply "
+      "too."}},
     {{"3. TEST", "TEST 3"},
      Zaehler,
      nullptr,
@@ -149,8 +95,7 @@ constexpr Mess_Test Tests[] = {
      {},
      {"TEST 3 FAILED", "TEST 3 FAILED"},
      {"Beide oder einer der 74HC393 arbeiten nicht richtig. Bitte überprüfen Sie die Lötstellen "
-      "und die "
-      "Verbindungen der Zähler zur Brennfassung, und ob alle Jumper richtig stecken.",
+      "und die Verbindungen der Zähler zur Brennfassung, und ob alle Jumper richtig stecken.",
       "One or both of the 74HC393 or one of it's connections seems to be defect. Please check the "
       "soldering, the connections from the counters to the socket, and the jumpers."}},
     {{"4. TEST", "TEST 4"},
@@ -158,35 +103,31 @@ constexpr Mess_Test Tests[] = {
      nullptr,
      {"TEST 4 OKAY", "TEST 4 OKAY"},
      {"Der Testlauf wurde abgeschlossen und es konnten keine Fehler festgestellt werden. Der "
-      "Eprommer ist "
-      "bereit.",
+      "Eprommer ist bereit.",
       "The hardware test was successfully finished! There was no error found, the eprommer is "
       "ready."},
      {"TEST 4 FAILED", "TEST 4 FAILED"},
      {"Das Problem liegt also an den bzw. der Leitung, deren Spannung beim letzten Test nicht "
-      "stimmte. "
-      "Bitte verfolgen Sie diese von der Brennfassung über die Jumper bis zum Parallelport.",
+      "stimmte. Bitte verfolgen Sie diese von der Brennfassung über die Jumper bis zum "
+      "Parallelport.",
       "Please check the connections of the pin, which voltage was wrong at the last test! Follow "
-      "them "
-      "from the socket to the jumpers and to the parallel port."}},
+      "them from the socket to the jumpers and to the parallel port."}},
 };
 
 const Test_Folge Ganze_Folge{
     {"Bitte nehmen Sie UNBEDINGT ein ev. eingestecktes E(E)prom aus der Brennfassung, da es durch "
-     "die "
-     "Spannungen der folgenden Tests zerstört werden könnte! Verbinden Sie danach den Eprommer mit "
-     "dem "
-     "Parallelport und schalten Sie seine Spannungsversorgung ein. Sie benötigen ein Voltmeter.",
+     "die Spannungen der folgenden Tests zerstört werden könnte! Verbinden Sie danach den "
+     "Eprommer mit dem Parallelport und schalten Sie seine Spannungsversorgung ein. Sie benötigen "
+     "ein Voltmeter.",
      "If you have inserted an e(e)prom, please take it out! The voltages of the following tests "
-     "could "
-     "destroy it. Then connect the eprommer to the parallel port and switch its power supply on. "
-     "You "
-     "need a voltmeter."},
+     "could destroy it. Then connect the eprommer to the parallel port and switch its power "
+     "supply on. You need a voltmeter."},
     Eprommer_Test1,
-    Diagnose,
-    Schluss_157,
+    {{"Eprommer", "eprommer"}, 251, 27, 91},
     Tests,
-    true};
+    true,
+    Ohne_Ruhe_Byte,
+    Leeres_Board<Simulierter_Eprommer>};
 
 } // namespace
 

@@ -2,19 +2,47 @@
 #include "programmer/Hardware_Tests.h"
 
 #include "core/commands.h"
-#include "core/messages.h"
 #include "core/platform.h"
 #include "core/shared_state.h"
+#include "programmer/Brennrahmen.h"
 #include "programmer/Geraete.h"
 #include "programmer/Geraetemenue.h"
+#include "programmer/Port_Einrichtung.h"
+#include "programmer/Signale.h"
+#include "programmer/Special.h"
 
-#include <algorithm>
 #include <string>
+#include <utility>
 
 namespace varnholt {
 namespace {
 
-Text_Paar Text_Von(const Festes_Paar& p) { return {std::string(p.D), std::string(p.E)}; }
+// The board of the test at the simulated port for the life of this object; any other port is left
+// as it is. The board of the chosen device waits with its part.
+class Test_Board {
+public:
+    explicit Test_Board(const Test_Folge& Folge)
+    {
+        const auto* Jetzt = dynamic_cast<Simuliertes_Board*>(Port_Einrichtung.Treiber.get());
+        if (Jetzt == nullptr || Plattform.Port != Port_Einrichtung.Treiber.get())
+            return;
+        Bisheriges     = std::exchange(Port_Einrichtung.Treiber, Folge.Leeres_Board(*Jetzt));
+        Plattform.Port = Port_Einrichtung.Treiber.get();
+        Porttreiber_Laden();
+    }
+    ~Test_Board()
+    {
+        if (Bisheriges == nullptr)
+            return;
+        Plattform.Port           = Bisheriges.get();
+        Port_Einrichtung.Treiber = std::move(Bisheriges);
+    }
+    Test_Board(const Test_Board&)            = delete;
+    Test_Board& operator=(const Test_Board&) = delete;
+
+private:
+    std::unique_ptr<Porttreiber> Bisheriges{};
+};
 
 // Each routine answers whether the sequence goes on.
 
@@ -23,11 +51,6 @@ bool Weiter_Nach(const Text_Paar& Text, const Text_Paar& Titel = {})
     Antwort = Antwort_Abbrechen;
     Melden(Text, Titel, Knoepfe::Ok_Abbrechen, Symbol::Hinweis);
     return Antwort != Antwort_Abbrechen;
-}
-
-void Ergebnis_Melden(const Festes_Paar& Titel, const Festes_Paar& Text, Symbol Zeichen)
-{
-    Melden(Text_Von(Text), Text_Von(Titel), Knoepfe::Ok, Zeichen);
 }
 
 bool Einfuehren(const Test_Folge& Folge)
@@ -58,41 +81,15 @@ bool Jumper_Stecken(const Test_Folge& Folge, int Baustein)
                         "Please connect the jumper now as shown on the grafik above."});
 }
 
-enum class Ausgang { Gut, Schlecht, Ende };
-
 // The patterns in order up to the first that isn't answered with Yes.
-Ausgang Messen(std::span<const Mess_Schritt> Schritte,
-               const Festes_Paar&            Titel,
-               const Mess_Schritt**          Falscher = nullptr)
+Ausgang Messen(const Mess_Test& Test)
 {
-    for (const Mess_Schritt& s : Schritte) {
+    for (const Mess_Schritt& s : Test.Schritte) {
         s.Anlegen();
-        Antwort = Antwort_Abbrechen;
-        Melden(Text_Von(s.Frage), Text_Von(Titel), Knoepfe::Ja_Nein_Abbrechen, Symbol::Frage);
-        if (Antwort == Antwort_Abbrechen)
-            return Ausgang::Ende;
-        if (Antwort == Antwort_Nein) {
-            if (Falscher != nullptr)
-                *Falscher = &s;
-            return Ausgang::Schlecht;
-        }
+        if (const Ausgang a = Messung_Erfragen(s.Frage, Test.Titel); a != Ausgang::Gut)
+            return a;
     }
     return Ausgang::Gut;
-}
-
-// Where the automatic test failed: narrows the fault down to a chip. Ends the sequence in any case.
-void Diagnose_Stellen(const Test_Folge& Folge)
-{
-    constexpr Festes_Paar Titel{"DIAGNOSE", "DIAGNOSIS"};
-    const Mess_Schritt*   Falscher = nullptr;
-    switch (Messen(Folge.Diagnose, Titel, &Falscher)) {
-    case Ausgang::Gut:
-        return Ergebnis_Melden(Titel, Folge.Diagnose_Schluss, Symbol::Warnung);
-    case Ausgang::Schlecht:
-        return Ergebnis_Melden(Titel, Falscher->Rat, Symbol::Warnung);
-    case Ausgang::Ende:
-        return;
-    }
 }
 
 // The last of the tests has nothing behind its box that could be given up.
@@ -102,17 +99,17 @@ bool Erfolg_Melden(const Mess_Test& Test, bool Letzter)
         return true;
     if (!Letzter)
         return Weiter_Nach(Text_Von(Test.Gut), Text_Von(Test.Gut_Titel));
-    Ergebnis_Melden(Test.Gut_Titel, Test.Gut, Symbol::Hinweis);
+    Ergebnis_Melden(Test.Gut_Titel, Text_Von(Test.Gut), Symbol::Hinweis);
     return true;
 }
 
 bool Mess_Test_Bestehen(const Mess_Test& Test, bool Letzter)
 {
-    const Ausgang e = Messen(Test.Schritte, Test.Titel);
+    const Ausgang e = Messen(Test);
     if (Test.Danach != nullptr)
         Test.Danach();
     if (e == Ausgang::Schlecht)
-        Ergebnis_Melden(Test.Schlecht_Titel, Test.Schlecht, Symbol::Warnung);
+        Ergebnis_Melden(Test.Schlecht_Titel, Text_Von(Test.Schlecht), Symbol::Warnung);
     return e == Ausgang::Gut && Erfolg_Melden(Test, Letzter);
 }
 
@@ -123,15 +120,12 @@ bool Automatisch_Bestehen(const Test_Folge& Folge)
     if (Antwort == Antwort_Abbrechen)
         return false;
     if (e.Fehler > 0)
-        Diagnose_Stellen(Folge);
+        Diagnose_Stellen(Folge.Brett);
     return e.Fehler == 0;
 }
 
-void Folge_Durchlaufen(const Test_Folge& Folge)
+void Tests_Durchlaufen(const Test_Folge& Folge)
 {
-    if (!Einfuehren(Folge) || !Jumper_Stecken(Folge, Erster_Test_Baustein) ||
-        !Automatisch_Bestehen(Folge))
-        return;
     int Baustein = Erster_Test_Baustein; // test 2 keeps the jumpers of test 1
     for (const Mess_Test& Test : Folge.Tests) {
         if (Baustein > Erster_Test_Baustein && !Jumper_Stecken(Folge, Baustein))
@@ -142,11 +136,39 @@ void Folge_Durchlaufen(const Test_Folge& Folge)
     }
 }
 
+// Up to the automatic test nothing is written: another board may still be at the port.
+void Folge_Durchlaufen(const Test_Folge& Folge)
+{
+    if (!Einfuehren(Folge) || !Jumper_Stecken(Folge, Erster_Test_Baustein))
+        return;
+    if (Automatisch_Bestehen(Folge))
+        Tests_Durchlaufen(Folge);
+    if (Folge.Ruhe_Byte != Ohne_Ruhe_Byte)
+        Daten_Senden(Folge.Ruhe_Byte);
+}
+
 } // namespace
+
+Text_Paar Text_Von(const Festes_Paar& Text) { return {std::string(Text.D), std::string(Text.E)}; }
+
+Ausgang Messung_Erfragen(const Festes_Paar& Frage, const Festes_Paar& Titel)
+{
+    Antwort = Antwort_Abbrechen;
+    Melden(Text_Von(Frage), Text_Von(Titel), Knoepfe::Ja_Nein_Abbrechen, Symbol::Frage);
+    if (Antwort == Antwort_Abbrechen)
+        return Ausgang::Ende;
+    return Antwort == Antwort_Nein ? Ausgang::Schlecht : Ausgang::Gut;
+}
+
+void Ergebnis_Melden(const Festes_Paar& Titel, const Text_Paar& Text, Symbol Zeichen)
+{
+    Melden(Text, Text_Von(Titel), Knoepfe::Ok, Zeichen);
+}
 
 void Hardware_Test(const Test_Folge& Folge)
 {
-    const int Vorher = IC_Nummer;
+    const Test_Board Board(Folge);
+    const int        Vorher = IC_Nummer;
     Folge_Durchlaufen(Folge);
     IC_Nummer = Vorher;
     if (Folge.Mit_Bild)

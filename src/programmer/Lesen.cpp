@@ -257,6 +257,9 @@ void Baustein_Lesen()
     }
 }
 
+// The device replaces the image.
+// reads: Datei_Geaendert, Modus   sets: Hex_Daten, Datei_Name, Datei_Geaendert, Text_Aktuell,
+// Antwort
 void MNU_IC_Lesen_Click()
 {
     Abbruch = false; // of whatever was given up before: this read would end at once

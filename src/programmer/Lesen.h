@@ -1,4 +1,4 @@
-// Reading a memory device on the Eprommer, and the menu command that reads a device into the image.
+// Reading a memory device on the Eprommer, and the frame of every read.
 #pragma once
 
 #include <cstdint>
@@ -29,10 +29,5 @@ void Lese_Fortschritt_Zeigen(std::int32_t Bytes);
 void Lesen_Aufgeben();
 // Read to the end: the data register comes to rest at Ruhe_Byte, the dialog shows 100 % and closes.
 void Lesen_Beenden(int Ruhe_Byte);
-
-// The device replaces the image.
-// reads: Datei_Geaendert, Modus   sets: Hex_Daten, Datei_Name, Datei_Geaendert, Text_Aktuell,
-// Antwort
-void MNU_IC_Lesen_Click();
 
 } // namespace varnholt

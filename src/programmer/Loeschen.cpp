@@ -2,6 +2,7 @@
 // Eprommer, and the menu command.
 #include "programmer/Loeschen.h"
 
+#include "core/commands.h"
 #include "core/messages.h"
 #include "core/session.h"
 #include "core/shared_state.h"
@@ -46,6 +47,17 @@ auto Loesch_Routine() -> void (*)()
         if (Gewaehltes_Geraet().E_Typ == w.E_Typ)
             return w.Routine;
     return nullptr;
+}
+
+// That of the programming dialog: the Tessel2 erases any type, and no other board its parts.
+auto Routine_Vor_Brennen() -> void (*)()
+{
+    const Geraet_T& g = Gewaehltes_Geraet();
+    if (g.E_Typ == "89CI")
+        return Tessel1_Löschen;
+    if (g.Programmer == Board_Nr_Tessel2)
+        return g.E_Typ == "89CIIWD" ? Tessel2_Löschen_WD : Tessel2_Löschen;
+    return g.E_Typ.starts_with("89") ? nullptr : Loesch_Routine();
 }
 
 void Daten_Fuer(double Sekunden, int Wert)
@@ -254,14 +266,15 @@ void Baustein_Löschen()
 
 void Vor_Brennen_Löschen()
 {
-    const Geraet_T& g       = Gewaehltes_Geraet();
-    const bool      Tessel2 = g.Programmer == Board_Nr_Tessel2 && g.E_Typ != "89CI";
-    if (Tessel2 && g.E_Typ != "89CIIWD")
-        Tessel2_Löschen();
-    else
-        Baustein_Löschen();
+    if (const auto Routine = Routine_Vor_Brennen())
+        Routine();
 }
 
+bool Vor_Brennen_Loeschbar() { return Routine_Vor_Brennen() != nullptr; }
+
+// Erases, and shows the state of the device. Devices that need no erase, or can't have one, get
+// their message instead.
+// reads: Porttreiber_OK, IC_Nummer   sets: Antwort, CheckIC, Hex_Puffer
 void MNU_IC_Löschen_Click()
 {
     Abbruch = false;

@@ -1,5 +1,5 @@
-// Erasing a device: which routine its erase type asks for, the erases of the devices of the
-// Eprommer, and the menu command.
+// Erasing a device: which routine its erase type asks for, and the erases of the devices of the
+// Eprommer.
 #pragma once
 
 namespace varnholt {
@@ -11,6 +11,8 @@ inline constexpr int Flash_Loesch_Versuche = 20; // rounds of a 28F erase
 void Baustein_Löschen();
 // The erase of the programming dialog: the same, but on the Tessel2 board any type is erased.
 void Vor_Brennen_Löschen();
+// True when that erases the selected device at all.
+[[nodiscard]] bool Vor_Brennen_Loeschbar();
 
 // The routines by erase type. The 27SF erase is guided by hand: the user moves a wire.
 // sets: Antwort
@@ -18,10 +20,5 @@ void Loeschen_27SF();
 void Loeschen_28C();
 // Erases and scans until the device is blank.   sets: Hex_Puffer, Abbruch, Antwort
 void Loeschen_28F();
-
-// The command: erases, and shows the state of the device. Devices that need no erase, or can't have
-// one, get their message instead.
-// reads: Porttreiber_OK, IC_Nummer   sets: Antwort, CheckIC, Hex_Puffer
-void MNU_IC_Löschen_Click();
 
 } // namespace varnholt

@@ -1,12 +1,16 @@
 // What the routines of both microcontroller boards share: the byte that an address is about, the
-// ready line, and the question about a missing part.
+// walk of a read, the ready line, and the question about a missing part.
 #include "programmer/MC_Signale.h"
 
 #include "core/settings.h"
 #include "core/shared_state.h"
+#include "programmer/Baustein.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Brennmenue.h"
+#include "programmer/Lesen.h"
 #include "programmer/Signale.h"
+
+#include <algorithm>
 
 namespace varnholt {
 namespace {
@@ -35,6 +39,20 @@ bool MC_Zu_Schreiben(const Zelle_T& Zelle)
     if (Adresse_Zaehler < Ab_Adresse)
         return Brennmenue.DAT00;
     return !No_FF || Zelle.Soll != 0xFF;
+}
+
+bool MC_Alle_Adressen_Lesen(std::uint8_t (*Byte_Lesen)())
+{
+    const auto Puffer = static_cast<std::int32_t>(Hex_Puffer.size());
+    const auto Bytes  = std::min(Nutzbare_Bytes(Gewaehltes_Geraet()), Puffer);
+    Prozent_Gezeigt   = 0;
+    for (Adresse_Zaehler = 0; Adresse_Zaehler < Bytes; ++Adresse_Zaehler) {
+        Lese_Fortschritt_Zeigen(Bytes);
+        if (Abbruch)
+            return false;
+        Hex_Puffer[static_cast<std::size_t>(Adresse_Zaehler)] = Byte_Lesen();
+    }
+    return true;
 }
 
 Folge MC_Brennen_Beginnen()

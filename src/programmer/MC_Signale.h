@@ -1,5 +1,6 @@
 // What the routines of both microcontroller boards share: the status bytes of the two boards, the
-// byte that an address is about, the ready line, and the question about a missing part.
+// byte that an address is about, the walk of a read, the ready line, and the question about a
+// missing part.
 #pragma once
 
 #include "programmer/Brennrahmen.h"
@@ -42,6 +43,11 @@ Zelle_T MC_Zelle_Bestimmen();
 // False where the target is only clocked: below Ab_Adresse without DAT00, and for an FFh that the
 // option No_FF passes over.
 [[nodiscard]] bool MC_Zu_Schreiben(const Zelle_T& Zelle);
+
+// Reads every address of the part into Hex_Puffer, as far as the caller sized it. Byte_Lesen gives
+// the byte of the current address and leaves the target at the next. False when the user gave up.
+// reads: the device's size, Abbruch   sets: Hex_Puffer, Adresse_Zaehler, Prozent_Gezeigt
+[[nodiscard]] bool MC_Alle_Adressen_Lesen(std::uint8_t (*Byte_Lesen)());
 
 // Beginning of a run behind its port bytes: dialog, event loop, counters.
 // sets: Prozent_Gezeigt, Versuch_Statistik

@@ -40,16 +40,16 @@ struct Seiten_T {
 
 Seiten_T Lauf_Einrichten()
 {
-    const Geraet_T& g = Gewaehltes_Geraet();
+    const Geraet_T&     g = Gewaehltes_Geraet();
+    const Brenn_Bereich b = Bereich_Des_Dialogs();
     Brenn_Bereich_Setzen();
-    Alt_Byte                  = Unbekannt;
-    Seiten_Groesse            = std::clamp(g.Seiten_Bytes, 1, Bild_Groesse);
-    Puls_an_C2                = g.P_Typ == "29C010" || g.P_Typ == "29C020" || g.P_Typ == "29C040";
-    Bank                      = 0;
-    Adj_512                   = 0;
-    Adj_257                   = 0;
-    const std::int32_t Letzte = Bis_Adresse < 0 ? -1 : Bis_Adresse / Seiten_Groesse;
-    return {std::max(Ab_Adresse, 0) / Seiten_Groesse, Letzte, 0};
+    Alt_Byte       = Unbekannt;
+    Seiten_Groesse = std::clamp(g.Seiten_Bytes, 1, Bild_Groesse);
+    Puls_an_C2     = g.P_Typ == "29C010" || g.P_Typ == "29C020" || g.P_Typ == "29C040";
+    Bank           = 0;
+    Adj_512        = 0;
+    Adj_257        = 0;
+    return {b.Erste / Seiten_Groesse, b.Letzte < 0 ? -1 : b.Letzte / Seiten_Groesse, 0};
 }
 
 // ---- One page ----
@@ -297,7 +297,8 @@ Folge Beweisen(Seiten_T& s)
     return Sektor_Melden(s);
 }
 
-Folge Bereich_Schreiben()
+// Bewiesen_Alle: pages were written, and the device holds them.
+Folge Bereich_Schreiben(bool& Bewiesen_Alle)
 {
     Brenn_Dialog_Oeffnen();
     Daten_Senden(90);
@@ -306,15 +307,17 @@ Folge Bereich_Schreiben()
     Folge    f = Brennlauf_Beginnen();
     if (f == Folge::Weiter)
         f = Alle_Schreiben(s);
-    return f == Folge::Weiter ? Beweisen(s) : f;
+    if (f == Folge::Weiter)
+        f = Beweisen(s);
+    Bewiesen_Alle = f == Folge::Weiter && s.Erste <= s.Letzte;
+    return f;
 }
 
 } // namespace
 
 void Seiten_Schreiben()
 {
-    const Folge f           = Bereich_Schreiben();
-    CheckIC.Seiten_Bewiesen = f == Folge::Weiter;
+    const Folge f = Bereich_Schreiben(CheckIC.Seiten_Bewiesen);
     Brennlauf_Beenden(f, f == Folge::Abgebrochen ? 74 : Ohne_Ruhe_Byte);
     CheckIC.Seiten_Bewiesen = false; // the proof is this run's: a later comparison reads anew
 }

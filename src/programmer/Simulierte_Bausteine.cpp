@@ -68,6 +68,11 @@ Simulierter_Baustein::Bits_Nach_Puls(Zelle_T& Zelle, std::uint8_t Bits, std::int
 void Simulierter_Baustein::Loeschen()
 {
     std::fill(Inhalt.begin(), Inhalt.end(), std::uint8_t{0xFF});
+    Vorleben_Vergessen();
+}
+
+void Simulierter_Baustein::Vorleben_Vergessen()
+{
     for (auto& [Adresse, Zelle] : Besondere) {
         Zelle.Summe = {};
         Zelle.Pulse = {};
@@ -84,6 +89,15 @@ void Simulierter_Baustein::Schwache_Zelle(std::uint32_t Adresse, int Pulse, doub
 void Simulierter_Baustein::Tote_Zelle(std::uint32_t Adresse, std::uint8_t Maske)
 {
     Besondere[Adresse].Tot = Maske;
+}
+
+// A sound cell is among the special ones too, while it is on its way to 0.
+std::size_t Simulierter_Baustein::Gestoerte_Stellen() const
+{
+    const auto Gestoert = [](const auto& z) {
+        return z.second.Tot != 0 || z.second.Pulse_Noetig > 1 || z.second.Faktor > 1;
+    };
+    return static_cast<std::size_t>(std::count_if(Besondere.begin(), Besondere.end(), Gestoert));
 }
 
 } // namespace varnholt

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <unordered_map>
 #include <vector>
@@ -53,6 +54,9 @@ public:
 
     // All cells to FFh, as after an erase or under UV light.
     void Loeschen();
+    // The cells were given other contents from outside: what pulses and erases have done so far no
+    // longer counts. The faults stay.
+    virtual void Vorleben_Vergessen();
 
     // Faults. An erase takes Loesch_Faktor times as long as that of a sound device. A weak cell
     // needs Faktor times the threshold in total, in at least Pulse pulses.
@@ -60,6 +64,8 @@ public:
     // The bits of Maske stay 1 whatever happens.
     void   Tote_Zelle(std::uint32_t Adresse, std::uint8_t Maske);
     double Loesch_Faktor = 1.0;
+    // How many cells, and pages, have such a fault.
+    virtual std::size_t Gestoerte_Stellen() const;
 
     std::vector<std::uint8_t> Inhalt;          // by device address
     int                       Sperr_Stufe = 0; // lock level of a microcontroller, 0 open

@@ -19,6 +19,8 @@
 namespace varnholt {
 namespace {
 
+constexpr int Sperr_Stufe_Hoechste = 4;
+
 constexpr std::int64_t Zehntel = 9; // a sound cell needs nine tenths of its nominal pulse
 
 constexpr std::int64_t Ladefenster = 150; // microseconds, the same in all data sheets of page parts
@@ -51,6 +53,8 @@ bool Zu_Gross(const std::filesystem::path& Datei, std::uintmax_t Hoechstens)
 void Inhalt_Uebernehmen(Simulierter_Baustein& Baustein, const std::string& Bytes)
 {
     const std::size_t n = Baustein.Inhalt.size();
+    Baustein.Fertigstellen(); // a page that is still on its way would go over the new contents
+    Baustein.Vorleben_Vergessen();
     std::transform(Bytes.begin(),
                    Bytes.begin() + static_cast<std::ptrdiff_t>(n),
                    Baustein.Inhalt.begin(),
@@ -131,7 +135,9 @@ Text_Paar Sockel_Laden(Simuliertes_Board& Board, const std::filesystem::path& Da
     const auto        Bytes = Datei_Lesen(Datei, n + 1);
     if (!Bytes)
         return Zu_Gross(Datei, n + 1) ? Falsche_Groesse(Datei, n) : Nicht_Lesbar(Datei);
-    if (Bytes->size() != n && Bytes->size() != n + 1)
+    const bool Mit_Stufe =
+        Bytes->size() == n + 1 && static_cast<std::uint8_t>(Bytes->back()) <= Sperr_Stufe_Hoechste;
+    if (Bytes->size() != n && !Mit_Stufe)
         return Falsche_Groesse(Datei, n);
     Inhalt_Uebernehmen(*Baustein, *Bytes);
     return {};

@@ -115,4 +115,11 @@ void Simuliertes_EEPROM::Schlechte_Seite(std::uint32_t Nummer, int Male)
     Schlechte[Nummer] = Male;
 }
 
+std::size_t Simuliertes_EEPROM::Gestoerte_Stellen() const
+{
+    const auto Noch = [](const auto& Seite) { return Seite.second > 0; };
+    return Simulierter_Baustein::Gestoerte_Stellen() +
+           static_cast<std::size_t>(std::count_if(Schlechte.begin(), Schlechte.end(), Noch));
+}
+
 } // namespace varnholt

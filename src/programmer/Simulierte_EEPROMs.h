@@ -36,10 +36,14 @@ public:
     bool         Loeschpuls(std::int64_t Dauer) override;
     void         Fertigstellen() override;
 
+    std::int32_t Seiten_Bytes() const { return Art.Seite; } // 1 for a device without pages
+    bool         Braucht_Zeit() const { return Art.Schreibzeit > 0; }
+
     // Faults beside those of the cells (a weak one takes at its n-th write, a dead bit stays as it
     // is): the next Male writes of a page are lost; storing takes Traegheit times as long.
-    void   Schlechte_Seite(std::uint32_t Nummer, int Male);
-    double Traegheit = 1.0;
+    void        Schlechte_Seite(std::uint32_t Nummer, int Male);
+    std::size_t Gestoerte_Stellen() const override;
+    double      Traegheit = 1.0;
 
 private:
     bool         Beschaeftigt() const { return Laedt || Uhr < Fertig; }

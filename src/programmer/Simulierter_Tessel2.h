@@ -15,6 +15,7 @@ namespace varnholt {
 
 class Simulierter_Tessel2 : public Simuliertes_MC_Board {
 public:
+    Simulierter_Tessel2() = default; // an empty socket
     explicit Simulierter_Tessel2(Simulierter_MC Eingesteckt) { Im_Sockel = std::move(Eingesteckt); }
 
 protected:

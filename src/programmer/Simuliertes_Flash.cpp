@@ -53,6 +53,12 @@ void Simuliertes_28F::Versorgung(bool An, std::int64_t Jetzt)
     Was      = Betrieb::Lesen;
 }
 
+void Simuliertes_28F::Vorleben_Vergessen()
+{
+    Simulierter_Baustein::Vorleben_Vergessen();
+    Loesch_Summe = 0;
+}
+
 void Simuliertes_28F::Vorgang_Beenden(std::int64_t Jetzt)
 {
     const std::int64_t Dauer = Jetzt - Seit;

@@ -22,6 +22,7 @@ public:
                            std::int64_t  Beginn,
                            std::int64_t  Jetzt) override;
     void         Versorgung(bool An, std::int64_t Jetzt) override;
+    void         Vorleben_Vergessen() override;
 
     // Microseconds of erasing that make a sound device blank; they sum up over several erases.
     static constexpr double Loeschzeit = 50000;
@@ -37,7 +38,7 @@ private:
     std::int64_t  Seit         = 0; // begin of the program or erase in progress
     std::uint32_t Stelle       = 0; // what is being programmed
     std::uint8_t  Wert_Dafuer  = 0xFF;
-    double        Loesch_Summe = 0; // erase time so far
+    double        Loesch_Summe = 0; // erase time since the last write or full erase
 };
 
 // A 27SF: an EPROM that a pulse with 12 V at address bit 9 erases.

@@ -29,30 +29,39 @@ protected:
 
 private:
     void         Zeigen();
+    void         Beschriften();
+    void         Werte_Zeigen(const Board_Bild& b);
     QWidget*     Anzeige_Bauen();
     QWidget*     Griffe_Bauen();
     QWidget*     Stoerungen_Bauen();
+    QWidget*     Zellen_Bauen();
     QPushButton* Griff(const char* Name, void (Board_Fenster::*Was)());
     void         Tun(const std::function<void()>& Was);
     void         Datei_Laden_Gewaehlt();
     void         Datei_Sichern_Gewaehlt();
     void         Neuer_Gewaehlt();
     void         UV_Gewaehlt();
+    void         Stelle_Stoeren(bool (*Stoeren)(std::int32_t Adresse));
     void         Tote_Zelle_Gewaehlt();
+    void         Schwache_Zelle_Gewaehlt();
+    void         Schlechte_Seite_Gewaehlt();
 
     Befehls_Weg                              Weg;
     QGroupBox*                               Sockel = nullptr;
-    std::array<QLabel*, 5>                   Namen{};
-    std::array<QLabel*, 5>                   Werte{};
-    QLabel*                                  Lage         = nullptr;
-    QPushButton*                             Neuer        = nullptr;
-    QPushButton*                             UV           = nullptr;
-    QPushButton*                             Laden_Knopf  = nullptr;
-    QPushButton*                             Sichern      = nullptr;
-    QPushButton*                             Tote         = nullptr;
-    QPushButton*                             Zu           = nullptr;
-    QLineEdit*                               Tote_Adresse = nullptr;
-    QGroupBox*                               Stoerungen   = nullptr;
+    std::array<QLabel*, 6>                   Namen{};
+    std::array<QLabel*, 6>                   Werte{};
+    QLabel*                                  Lage        = nullptr;
+    QPushButton*                             Neuer       = nullptr;
+    QPushButton*                             UV          = nullptr;
+    QPushButton*                             Laden_Knopf = nullptr;
+    QPushButton*                             Sichern     = nullptr;
+    QPushButton*                             Tote        = nullptr;
+    QPushButton*                             Schwache    = nullptr;
+    QPushButton*                             Seite       = nullptr;
+    QPushButton*                             Zu          = nullptr;
+    QLabel*                                  Adress_Name = nullptr;
+    QLineEdit*                               Adresse     = nullptr;
+    QGroupBox*                               Stoerungen  = nullptr;
     std::array<QCheckBox*, Board_Stoerungen> Haken{};
 };
 

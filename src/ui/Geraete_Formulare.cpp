@@ -11,39 +11,30 @@
 #include "ui/MDI.h"
 #include "ui/Versions_Dialog.h"
 
+#include <functional>
+#include <type_traits>
+
 namespace varnholt {
 namespace {
 
-void Offen_Zeigen(QWidget& Form)
+// With the way to the commands where the form has some.
+template <class Form_T> std::unique_ptr<QWidget> Gebaut(MDI& Haupt)
 {
-    Form.show();
-    Form.raise();
+    const auto Weg = [&Haupt](const std::function<void()>& Befehl) { Haupt.Ausfuehren(Befehl); };
+    if constexpr (std::is_constructible_v<Form_T, Befehls_Weg, QWidget*>)
+        return std::make_unique<Form_T>(Weg, &Haupt);
+    else
+        return std::make_unique<Form_T>(&Haupt);
 }
 
-void Jumper_Zeigen(MDI& Haupt, std::unique_ptr<QWidget>& Form)
+// A form that stays open: built at its first showing.
+template <class Form_T> void Offen_Zeigen(MDI& Haupt, std::unique_ptr<QWidget>& Form)
 {
     if (!Form)
-        Form = std::make_unique<Jumper_Fenster>(&Haupt);
-    static_cast<Jumper_Fenster*>(Form.get())->Nachziehen();
-    Offen_Zeigen(*Form);
-}
-
-void CheckIC_Zeigen(MDI& Haupt, std::unique_ptr<QWidget>& Form)
-{
-    if (!Form)
-        Form = std::make_unique<CheckIC_Fenster>(
-            [&Haupt](const std::function<void()>& Befehl) { Haupt.Ausfuehren(Befehl); }, &Haupt);
-    static_cast<CheckIC_Fenster*>(Form.get())->Nachziehen();
-    Offen_Zeigen(*Form);
-}
-
-void Board_Zeigen(MDI& Haupt, std::unique_ptr<QWidget>& Form)
-{
-    if (!Form)
-        Form = std::make_unique<Board_Fenster>(
-            [&Haupt](const std::function<void()>& Befehl) { Haupt.Ausfuehren(Befehl); }, &Haupt);
-    static_cast<Board_Fenster*>(Form.get())->Nachziehen();
-    Offen_Zeigen(*Form);
+        Form = Gebaut<Form_T>(Haupt);
+    static_cast<Form_T*>(Form.get())->Nachziehen();
+    Form->show();
+    Form->raise();
 }
 
 void Version_Erfragen(MDI& Haupt, bool Eprommer)
@@ -71,13 +62,13 @@ bool Geraete_Formular_Zeigen(MDI& Haupt, Formular Welches, std::unique_ptr<QWidg
 {
     switch (Welches) {
     case Formular::F_Jumper:
-        Jumper_Zeigen(Haupt, Form);
+        Offen_Zeigen<Jumper_Fenster>(Haupt, Form);
         return true;
     case Formular::F_Board:
-        Board_Zeigen(Haupt, Form);
+        Offen_Zeigen<Board_Fenster>(Haupt, Form);
         return true;
     case Formular::F_CheckIC:
-        CheckIC_Zeigen(Haupt, Form);
+        Offen_Zeigen<CheckIC_Fenster>(Haupt, Form);
         return true;
     case Formular::F_Brennmenue:
         Brennmenue_Dialog(&Haupt).exec();

@@ -30,7 +30,8 @@ void Geraete_Menue::Aufbauen()
     for (QMenu* m : findChildren<QMenu*>())
         delete m;
     for (int g = 0; g < Gruppen_Anzahl; ++g)
-        if (Geraete.Gruppen_Belegt[static_cast<std::size_t>(g)] > 0)
+        if (Geraete.Gruppen_Belegt[static_cast<std::size_t>(g)] > 0 ||
+            !Geraete.Gruppen_Namen[static_cast<std::size_t>(g)].empty())
             Gruppe_Bauen(g);
 }
 

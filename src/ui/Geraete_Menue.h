@@ -1,5 +1,5 @@
-// The menu MNU_IC_Typ: a submenu for each group of devices, an entry for each device, built from
-// the device table when it opens.
+// The menu MNU_IC_Typ: a submenu for each group that has a name or devices, an entry for each
+// device, built from the device table when it opens.
 #pragma once
 
 #include <QMenu>

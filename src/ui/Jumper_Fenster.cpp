@@ -2,6 +2,7 @@
 #include "ui/Jumper_Fenster.h"
 
 #include "core/messages.h"
+#include "programmer/Geraete.h"
 #include "programmer/Geraetemenue.h"
 #include "ui/Bild_Feld.h"
 #include "ui/Qt_Text.h"
@@ -12,11 +13,23 @@
 #include <QVBoxLayout>
 
 namespace varnholt {
+namespace {
+
+// The newest layout has a picture of its own for the parts that need its jumper 0.
+QString Board_Bild()
+{
+    const bool    Mit_Null = Jumper.Version == 32 && !Jumper.Ohne_Null;
+    const QString Name     = QStringLiteral("board_%1").arg(Jumper.Version);
+    return Mit_Null ? Name + QStringLiteral("_jp0") : Name;
+}
+
+} // namespace
 
 Jumper_Fenster::Jumper_Fenster(QWidget* Eltern) : QDialog(Eltern, Qt::Tool)
 {
     setObjectName(QStringLiteral("Jumper"));
-    Board       = new Bild_Feld(QSize(392, 252));
+    Board = new Bild_Feld(QSize(392, 252));
+    Board->setObjectName(QStringLiteral("Board"));
     auto* Reihe = new QHBoxLayout;
     Reihe->addStretch();
     for (std::size_t i = 0; i < Bilder.size(); ++i) {
@@ -42,6 +55,9 @@ Jumper_Fenster::Jumper_Fenster(QWidget* Eltern) : QDialog(Eltern, Qt::Tool)
     Alles->addLayout(Reihe);
     Alles->addWidget(Hinweis);
     Alles->addWidget(Zu, 0, Qt::AlignRight);
+    // Beside the middle, where the boxes of a hardware test speak of the picture.
+    if (Eltern != nullptr)
+        move(Eltern->mapToGlobal(QPoint(0, 48)));
     Nachziehen();
 }
 
@@ -50,8 +66,10 @@ void Jumper_Fenster::Nachziehen()
     if (Gezeigt == Jumper.Stand)
         return;
     Gezeigt = Jumper.Stand;
+    // A box is put over the active window, and would hide the picture that it speaks of.
+    setAttribute(Qt::WA_ShowWithoutActivating, IC_Nummer >= Erster_Test_Baustein);
     setWindowTitle(Qt_Text(Jumper.Titel));
-    Board->Laden(QStringLiteral("board_%1").arg(Jumper.Version));
+    Board->Laden(Board_Bild());
     for (std::size_t i = 0; i < Bilder.size(); ++i) {
         const int  Stellung = Jumper.Stellung[i];
         const bool Sichtbar = Stellung >= 1 && Stellung <= 3 && !(i == 0 && Jumper.Ohne_Null);

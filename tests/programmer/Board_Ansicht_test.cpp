@@ -7,8 +7,10 @@
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "programmer/Brenner_Zustand.h"
+#include "programmer/Brennmenue.h"
 #include "programmer/Geraete.h"
 #include "programmer/Lesen.h"
+#include "programmer/MC_Zustand.h"
 #include "programmer/Port_Einrichtung.h"
 #include "programmer/Simulierte_Boards.h"
 #include "programmer/Special.h"
@@ -16,8 +18,10 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <set>
 
 #include <unistd.h>
 
@@ -36,6 +40,32 @@ protected:
     }
     static void Eprommer() { Einsetzen("27C256", 1, "UV", 32768); }
     static void Tessel2() { Einsetzen("89C52", 3, "89CII", 8192); }
+    // A device of the family with the times and the page of its data sheet.
+    void Einsetzen(const char*  Typ,
+                   int          Brett,
+                   const char*  E_Typ,
+                   std::int32_t Bytes,
+                   std::int32_t P_Timing,
+                   std::int32_t Seite = 0)
+    {
+        Einsetzen(Typ, Brett, E_Typ, Bytes);
+        Geraete_Tabelle[0].R_Timing     = 3;
+        Geraete_Tabelle[0].P_Timing     = P_Timing;
+        Geraete_Tabelle[0].Seiten_Bytes = Seite;
+        Board_Neuer_Baustein();
+        Bild_Loeschen();
+        std::fill_n(Hex_Daten.begin(), Bytes, std::uint8_t{0x3C});
+        C_IC_vor_B = false;
+        Modus      = Modus_Hex;
+        Box.Meldungen.clear();
+    }
+    // Programs the whole image, without an erase before.
+    static void Brennen()
+    {
+        MNU_IC_Brennen_Click();
+        Brennmenue.Löschen = false;
+        Brennen_Click();
+    }
     static void Einsetzen(const char* Typ, int Brett, const char* E_Typ, std::int32_t Bytes)
     {
         Geraet_T& g  = Geraete_Tabelle[0];
@@ -146,7 +176,11 @@ TEST_F(Board_Ansicht_Test, each_fault_goes_on_and_off_alone_and_says_why)
          "The ready line never comes."},
         {Board_Stoerung::Falsche_Kennung,
          "Das IC gibt eine falsche Signatur: es wird nicht erkannt.",
-         "The IC gives a wrong signature: it isn't recognised."}};
+         "The IC gives a wrong signature: it isn't recognised."},
+        {Board_Stoerung::Nicht_Loeschbar,
+         "Das IC lässt sich nicht löschen.",
+         "The IC can't be erased."},
+        {Board_Stoerung::Fuenf_Volt, "", ""}};
     Tessel2();
     for (const Zeile_T& z : Zeilen) {
         Board_Stoeren(z.Welche, true);
@@ -161,6 +195,246 @@ TEST_F(Board_Ansicht_Test, each_fault_goes_on_and_off_alone_and_says_why)
         EXPECT_FALSE(Board_Gestoert(z.Welche));
         EXPECT_EQ(Board_Ansehen().Lage, "");
     }
+}
+
+TEST_F(Board_Ansicht_Test, the_faults_of_the_memories_say_why_too)
+{
+    struct Zeile_T {
+        const char *   Typ, *E_Typ;
+        Board_Stoerung Welche;
+        const char *   D, *E;
+    };
+    const Zeile_T Zeilen[] = {{"29C256",
+                               "29C",
+                               Board_Stoerung::Langsam,
+                               "Das IC speichert zu langsam.",
+                               "The IC takes too long to store."},
+                              {"27SF256",
+                               "27SF",
+                               Board_Stoerung::Draht_Vergessen,
+                               "Der Draht zum Löschen wird nicht umgesteckt.",
+                               "The wire for the erase isn't moved."}};
+    for (const Zeile_T& z : Zeilen) {
+        Einsetzen(z.Typ, 1, z.E_Typ, 1024, 10000, 64);
+        Board_Stoeren(z.Welche, true);
+        EXPECT_TRUE(Board_Gestoert(z.Welche));
+        Sprache = "E";
+        EXPECT_EQ(Board_Ansehen().Lage, z.E);
+        Sprache = "D";
+        EXPECT_EQ(Board_Ansehen().Lage, z.D);
+        Board_Stoeren(z.Welche, false);
+        EXPECT_EQ(Board_Ansehen().Lage, "");
+    }
+}
+
+TEST_F(Board_Ansicht_Test, each_family_knows_its_faults_and_no_others)
+{
+    using enum Board_Stoerung;
+    struct Zeile_T {
+        const char*              Typ;
+        int                      Brett;
+        const char*              E_Typ;
+        std::set<Board_Stoerung> Eigene; // beside those of the board
+        bool                     Seiten;
+    };
+    const Zeile_T Zeilen[] = {
+        {"27C256", 1, "UV", {}, false},
+        {"28C256", 1, "28C", {Nicht_Loeschbar, Langsam}, false},
+        {"28C010", 1, "29C", {Langsam}, false},
+        {"28F010", 1, "28F", {Nicht_Loeschbar}, false},
+        {"29C256", 1, "29C", {Langsam}, true},
+        {"27SF256", 1, "27SF", {Nicht_Loeschbar, Draht_Vergessen}, false},
+        {"89C2051", 2, "89CI", {Nicht_Loeschbar, Nicht_Bereit, Falsche_Kennung}, false},
+        {"89C52", 3, "89CII", {Nicht_Loeschbar, Nicht_Bereit, Falsche_Kennung, Fuenf_Volt}, false},
+        {"89C55WD",
+         3,
+         "89CIIWD",
+         {Nicht_Loeschbar, Nicht_Bereit, Falsche_Kennung, Fuenf_Volt},
+         false},
+        {"89S53", 3, "89SII", {Nicht_Loeschbar, Nicht_Bereit, Falsche_Kennung}, false}};
+    for (const Zeile_T& z : Zeilen) {
+        Einsetzen(z.Typ, z.Brett, z.E_Typ, 2048, 1000, 64);
+        Geraete_Tabelle[0].L_Typ = z.E_Typ;
+        Board_Neuer_Baustein();
+        EXPECT_EQ(Board_Ansehen().Hat_Seiten, z.Seiten) << z.Typ;
+        EXPECT_EQ(Board_Schlechte_Seite(0), z.Seiten) << z.Typ;
+        for (int i = 0; i < Board_Stoerungen; ++i) {
+            const auto s  = static_cast<Board_Stoerung>(i);
+            const bool Da = s < Nicht_Bereit || z.Eigene.contains(s);
+            EXPECT_EQ(Board_Stoerung_Moeglich(s), Da) << z.Typ << " " << i;
+            Board_Stoeren(s, true);
+            EXPECT_EQ(Board_Gestoert(s), Da) << z.Typ << " " << i;
+        }
+    }
+}
+
+TEST_F(Board_Ansicht_Test, a_battery_backed_RAM_is_neither_slow_nor_erased)
+{
+    Einsetzen("48T08", 1, "29C", 8192, 1);
+    Geraete_Tabelle[0].R_Typ = Geraete_Tabelle[0].P_Typ = "28C64";
+    Board_Neuer_Baustein();
+    EXPECT_FALSE(Board_Stoerung_Moeglich(Board_Stoerung::Langsam));
+    EXPECT_FALSE(Board_Stoerung_Moeglich(Board_Stoerung::Nicht_Loeschbar));
+}
+
+TEST_F(Board_Ansicht_Test, a_part_that_cannot_be_erased_stays_written_in_each_family)
+{
+    struct Zeile_T {
+        const char*  Typ;
+        int          Brett;
+        const char*  E_Typ;
+        std::int32_t P_Timing;
+        const char*  Meldung; // of the erase itself
+    };
+    const Zeile_T Zeilen[] = {
+        {"28C256", 1, "28C", 10000, ""},
+        {"28F010",
+         1,
+         "28F",
+         10,
+         "Can't erase 28F010! Please check the hardware and the flash eprom!"},
+        {"27SF256", 1, "27SF", 20, ""},
+        {"89C2051", 2, "89CI", 10, ""},
+        {"89C52", 3, "89CII", 50, ""}};
+    for (const Zeile_T& z : Zeilen) {
+        Einsetzen(z.Typ, z.Brett, z.E_Typ, 512, z.P_Timing);
+        for (const bool An : {true, false}) {
+            Inhalt()[7] = 0x12;
+            Board_Stoeren(Board_Stoerung::Nicht_Loeschbar, An);
+            Box.Meldungen.clear();
+            Box.Antworten = {Antwort_Ok, Antwort_Ok};
+            MNU_IC_Löschen_Click();
+            EXPECT_EQ(Inhalt()[7], An ? 0x12 : 0xFF) << z.Typ;
+            if (An && *z.Meldung != '\0') {
+                ASSERT_EQ(Box.Meldungen.size(), 1u) << z.Typ;
+                EXPECT_EQ(Box.Meldungen[0].Text, z.Meldung);
+            }
+            Box.Antworten.clear();
+            Abbruch = false;
+        }
+    }
+}
+
+TEST_F(Board_Ansicht_Test, a_forgotten_wire_leaves_a_27SF_written)
+{
+    for (const bool Vergessen : {true, false}) {
+        Einsetzen("27SF256", 1, "27SF", 512, 20);
+        Inhalt()[7] = 0x12;
+        Board_Stoeren(Board_Stoerung::Draht_Vergessen, Vergessen);
+        Box.Antworten = {Antwort_Ok, Antwort_Ok};
+        MNU_IC_Löschen_Click();
+        EXPECT_EQ(Inhalt()[7], Vergessen ? 0x12 : 0xFF);
+    }
+}
+
+TEST_F(Board_Ansicht_Test, a_slow_part_fails_byte_by_byte_and_by_pages)
+{
+    Einsetzen("28C256", 1, "28C", 512, 10000);
+    Board_Stoeren(Board_Stoerung::Langsam, true);
+    Brennen();
+    EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Fehler);
+    ASSERT_EQ(Box.Meldungen.size(), 1u);
+    EXPECT_EQ(Box.Meldungen[0].Text, "Error while programming address 0(dec) / 0(hex) !");
+    Einsetzen("29C256", 1, "29C", 8192, 10000, 64);
+    Board_Stoeren(Board_Stoerung::Langsam, true);
+    Brennen();
+    EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Fehler);
+    ASSERT_EQ(Box.Meldungen.size(), 1u);
+    EXPECT_EQ(Box.Meldungen[0].Text,
+              "29C256 can't be programmed successfully! Please check your hardware and the flash "
+              "eprom!")
+        << "busy with its last page while all are read";
+}
+
+TEST_F(Board_Ansicht_Test, a_bad_page_is_named_by_the_message)
+{
+    Einsetzen("29C256", 1, "29C", 1024, 10000, 64);
+    EXPECT_FALSE(Board_Schlechte_Seite(1024));
+    EXPECT_FALSE(Board_Schlechte_Seite(-1));
+    EXPECT_TRUE(Board_Schlechte_Seite(3 * 64 + 63));
+    Brennen();
+    EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Fehler);
+    ASSERT_EQ(Box.Meldungen.size(), 1u);
+    EXPECT_EQ(Box.Meldungen[0].Text,
+              "Sector number 3 can't be programmed successfully! Please check your hardware and "
+              "the flash eprom!");
+    Board_Neuer_Baustein();
+    Box.Meldungen.clear();
+    Brennen();
+    EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Fertig) << "a new part is in order";
+}
+
+TEST_F(Board_Ansicht_Test, the_faulty_cells_and_pages_are_counted_once_each)
+{
+    Einsetzen("29C256", 1, "29C", 1024, 10000, 64);
+    EXPECT_EQ(Board_Ansehen().Stellen, "none");
+    Board_Tote_Zelle(5);
+    Board_Schwache_Zelle(5);
+    EXPECT_EQ(Board_Ansehen().Stellen, "1");
+    Board_Schwache_Zelle(6);
+    Board_Schlechte_Seite(6);
+    Board_Schlechte_Seite(7);
+    EXPECT_EQ(Board_Ansehen().Stellen, "3");
+    Board_Neuer_Baustein();
+    Sprache = "D";
+    EXPECT_EQ(Board_Ansehen().Stellen, "keine");
+    Einsetzen("27C256", 1, "UV", 1024, 100);
+    dynamic_cast<Simuliertes_Board&>(*Port_Einrichtung.Treiber).Baustein()->Puls(3, 0, 10);
+    EXPECT_EQ(Board_Ansehen().Stellen, "keine") << "a pulse that was too short is no fault";
+}
+
+TEST_F(Board_Ansicht_Test, a_weak_cell_takes_at_the_fifth_attempt_in_each_family)
+{
+    struct Zeile_T {
+        const char*  Typ;
+        int          Brett;
+        const char*  E_Typ;
+        std::int32_t P_Timing;
+    };
+    const Zeile_T Zeilen[] = {{"27C256", 1, "UV", 100},
+                              {"28C256", 1, "28C", 10000},
+                              {"28F010", 1, "28F", 10},
+                              {"27SF256", 1, "27SF", 20},
+                              {"89C52", 3, "89CII", 50}};
+    for (const Zeile_T& z : Zeilen) {
+        Einsetzen(z.Typ, z.Brett, z.E_Typ, 512, z.P_Timing);
+        EXPECT_FALSE(Board_Schwache_Zelle(512));
+        EXPECT_FALSE(Board_Schwache_Zelle(-1));
+        EXPECT_TRUE(Board_Schwache_Zelle(200));
+        Brennen();
+        EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Fertig) << z.Typ;
+        EXPECT_EQ(Versuch_Statistik[Schwache_Pulse], 1) << z.Typ;
+        EXPECT_EQ(Versuch_Statistik[1], 511) << z.Typ;
+        EXPECT_EQ(Inhalt()[200], 0x3C) << z.Typ;
+    }
+}
+
+TEST_F(Board_Ansicht_Test, a_weak_cell_of_a_page_is_rewritten_until_it_takes)
+{
+    Einsetzen("29C256", 1, "29C", 1024, 10000, 64);
+    EXPECT_TRUE(Board_Schwache_Zelle(200));
+    Brennen();
+    EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Fertig);
+    const auto n =
+        std::count(Status.Texte.begin(), Status.Texte.end(), "29C256 Reprogram 1 sectors... 20%");
+    EXPECT_EQ(n, 4) << "four passes behind the first one";
+}
+
+TEST_F(Board_Ansicht_Test, a_part_for_5_volts_is_recognised_programmed_and_erased)
+{
+    Einsetzen("89C52", 3, "89CII", 512, 50);
+    Board_Stoeren(Board_Stoerung::Fuenf_Volt, true);
+    Brennen();
+    EXPECT_EQ(Prog_Spannung, 5);
+    EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Fertig);
+    EXPECT_EQ(Inhalt(), std::vector<std::uint8_t>(512, 0x3C));
+    MNU_IC_Löschen_Click();
+    EXPECT_EQ(Inhalt(), std::vector<std::uint8_t>(512, 0xFF));
+    Board_Stoeren(Board_Stoerung::Fuenf_Volt, false);
+    EXPECT_FALSE(Board_Gestoert(Board_Stoerung::Fuenf_Volt));
+    Brennen();
+    EXPECT_EQ(Prog_Spannung, 12);
+    EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Fertig);
 }
 
 TEST_F(Board_Ansicht_Test, the_eprommer_has_no_faults_of_a_microcontroller)

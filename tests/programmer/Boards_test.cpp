@@ -125,6 +125,40 @@ TEST_F(Boards_Test, a_lock_level_above_0_is_one_further_byte)
     EXPECT_EQ(Zweites->Baustein()->Sperr_Stufe, 2);
 }
 
+TEST_F(Boards_Test, a_further_byte_that_is_no_lock_level_makes_the_file_one_of_another_size)
+{
+    for (const int Stufe : {0, 1, 4, 5, 255}) {
+        Schreiben(std::string(16, 'x') + static_cast<char>(Stufe));
+        EXPECT_EQ(Sockel_Laden(*Brett, Datei).E.empty(), Stufe <= 4) << Stufe;
+    }
+    EXPECT_EQ(Brett->Baustein()->Sperr_Stufe, 4);
+}
+
+TEST_F(Boards_Test, a_page_that_is_still_being_loaded_does_not_go_over_new_contents)
+{
+    Geraet("29C256", 16, "29C256", "29C256").Seiten_Bytes = 4;
+    Brett                                                 = Simuliertes_Board_Fuer(0);
+    Simulierter_Baustein& b                               = *Brett->Baustein();
+    b.Schreiben(5, 0x33, 0, 1);
+    Schreiben(std::string(16, 'x'));
+    EXPECT_EQ(Sockel_Laden(*Brett, Datei).E, "");
+    b.Zeit(1000000);
+    EXPECT_EQ(b.Inhalt, std::vector<std::uint8_t>(16, 'x'));
+}
+
+TEST_F(Boards_Test, new_contents_begin_with_cells_that_got_no_pulse_yet)
+{
+    Simulierter_Baustein& b = *Brett->Baustein();
+    b.Schwache_Zelle(3, 2);
+    b.Puls(3, 0, 100);
+    Schreiben(std::string(16, '\xFF'));
+    EXPECT_EQ(Sockel_Laden(*Brett, Datei).E, "");
+    b.Puls(3, 0, 100);
+    EXPECT_EQ(b.Inhalt[3], 0xFF) << "still a weak cell, and the pulse of before doesn't count";
+    b.Puls(3, 0, 100);
+    EXPECT_EQ(b.Inhalt[3], 0x00);
+}
+
 TEST_F(Boards_Test, a_file_of_another_size_is_refused_in_both_languages)
 {
     for (const std::size_t n :

@@ -1,6 +1,7 @@
 // The world of the programmer's tests.
 #include "programmer/Brenner_Welt.h"
 
+#include "core/commands.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "programmer/Brennmenue.h"

@@ -1,4 +1,5 @@
 // The programming dialog as a model.
+#include "core/commands.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "programmer/Brenner_Welt.h"
@@ -304,6 +305,41 @@ TEST_F(Felder_Test, a_range_that_ends_before_it_begins_is_an_error_in_both_langu
     }
 }
 
+TEST_F(Felder_Test, an_error_in_the_editor_fields_keeps_the_button_off_whatever_the_ic_address_is)
+{
+    for (const char* Kuerzel : {"D", "E"}) {
+        Sprache = Kuerzel;
+        ED_EBA_D_Change("10");
+        BR_EBA_D_Change("3");
+        EXPECT_FALSE(Brennmenue.Brennen_Aktiv) << Kuerzel;
+        BR_EBA_H_Change("0");
+        EXPECT_FALSE(Brennmenue.Brennen_Aktiv) << Kuerzel;
+        BR_EBA_D_Change("5000");
+        EXPECT_EQ(Brennmenue.BR_LBA_D, "HOCH  ");
+        BR_EBA_D_Change("0");
+        Brennen_Click();
+        EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Keiner);
+        ED_EBA_D_Change("9");
+        EXPECT_TRUE(Brennmenue.Brennen_Aktiv) << "a range again";
+    }
+}
+
+TEST_F(Felder_Test, an_empty_editor_is_not_programmed_while_one_end_of_its_range_says_so)
+{
+    for (const char* Kuerzel : {"D", "E"}) {
+        Bild_Loeschen();
+        Sprache = Kuerzel;
+        MNU_IC_Brennen_Click();
+        ED_EBA_D_Change("0");
+        EXPECT_FALSE(Brennmenue.Brennen_Aktiv) << Kuerzel;
+        MNU_IC_Brennen_Click();
+        ED_LBA_H_Change("1F");
+        EXPECT_FALSE(Brennmenue.Brennen_Aktiv) << Kuerzel;
+        ED_EBA_H_Change("0"); // both are the user's own now
+        EXPECT_TRUE(Brennmenue.Brennen_Aktiv) << Kuerzel;
+    }
+}
+
 TEST_F(Felder_Test, a_range_may_end_exactly_at_the_last_address_and_not_one_byte_later)
 {
     BR_EBA_D_Change("4086"); // ten bytes to 4095
@@ -374,8 +410,15 @@ TEST_F(Felder_Test, more_grows_the_form_to_8040_twips_and_back)
 
 TEST_F(Felder_Test, the_program_type_chooses_the_routine)
 {
-    for (const char* P : {"27C256", "87C257", "27SF256", "28C256", "28F010", "29C256", "89C1051",
-                          "89C2051", "89C4051"}) {
+    for (const char* P : {"27C256",
+                          "87C257",
+                          "27SF256",
+                          "28C256",
+                          "28F010",
+                          "29C256",
+                          "89C1051",
+                          "89C2051",
+                          "89C4051"}) {
         Geraete_Tabelle[0].P_Typ = P;
         EXPECT_TRUE(Brennen_Bedient()) << P;
     }
@@ -386,6 +429,26 @@ TEST_F(Felder_Test, the_program_type_chooses_the_routine)
         Brennen_Click();
         EXPECT_EQ(Brenn_Ergebnis, Brenn_Ausgang::Nicht_Verfuegbar) << P;
     }
+    EXPECT_EQ(Spur(), "");
+}
+
+TEST_F(Felder_Test, a_device_without_a_routine_is_told_in_both_languages_and_nothing_is_erased)
+{
+    Geraete_Tabelle[0].P_Typ      = "XYZ";
+    Geraete_Tabelle[0].E_Typ      = "28C";
+    Geraete_Tabelle[0].Menue_Name = "Mein IC";
+    Brennmenue.Löschen            = true;
+    Spur();
+    Brennen_Click();
+    Sprache = "D";
+    Brennen_Click();
+    ASSERT_EQ(Box.Meldungen.size(), 2u);
+    EXPECT_EQ(Box.Meldungen[0].Text,
+              "Mein IC can't be programmed: there is no programming routine for its type.");
+    EXPECT_EQ(Box.Meldungen[1].Text,
+              "Mein IC kann nicht gebrannt werden: für seinen Typ gibt es keine Brennroutine.");
+    EXPECT_TRUE(Brennmenue.Offen);
+    EXPECT_FALSE(Ereignisse.Zeiger_Wartet);
     EXPECT_EQ(Spur(), "");
 }
 

@@ -1,4 +1,5 @@
 // The comparison of a device with the image.
+#include "core/commands.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "programmer/Brenner_Welt.h"
@@ -240,6 +241,29 @@ TEST_F(CheckIC_Test, the_table_has_a_line_for_each_difference)
               "--------+------+------\r\n"
               "000001 |  02  |  AB\r\n"
               "00003F |  FF  |  00\r\n");
+}
+
+TEST_F(CheckIC_Test, the_table_tells_what_was_read_whatever_uses_the_buffer_afterwards)
+{
+    Bild_Fuellen({0x01, 0x02, 0x03});
+    Bestuecken();
+    Inhalt()[1] = 0xAB;
+    CheckIC_Start(false, false);
+    const std::string Soll = "Hex.Adr.|Editor|  IC  \r\n--------+------+------\r\n"
+                             "000001 |  02  |  AB\r\n";
+    C_IC_vor_B             = true;
+    Inhalt()[1]            = 0xCD;
+    MNU_IC_Brennen_Click(); // reads into the same buffer
+    Button_Dat_Click();
+    EXPECT_EQ(CheckIC.Text, Soll);
+    Hex_Puffer.clear();
+    Button_Dat_Click();
+    EXPECT_EQ(CheckIC.Text, Soll);
+    Einsetzen(128); // a larger device is chosen
+    Button_Dat_Click();
+    EXPECT_EQ(CheckIC.Text, Soll);
+    Button_OK_Click();
+    EXPECT_TRUE(CheckIC.Baustein.empty());
 }
 
 TEST_F(CheckIC_Test, the_table_ends_after_1000_differences)

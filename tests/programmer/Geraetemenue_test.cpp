@@ -9,6 +9,7 @@
 #include "programmer/Board_Ansicht.h"
 #include "programmer/Geraete.h"
 #include "programmer/Port_Einrichtung.h"
+#include "programmer/Simulierte_Boards.h"
 #include "programmer/Special.h"
 #include "programmer/Specifications.h"
 #include "support/scripted_platform.h"
@@ -154,12 +155,21 @@ TEST_F(Geraetemenue_Test, the_form_of_the_tessel2_version_finishes_the_selection
     EXPECT_EQ(Letzte_Meldung(), "Please insert jumper J1 if it's not already inserted.");
 }
 
-TEST_F(Geraetemenue_Test, without_a_tessel2_version_nothing_is_selected)
+TEST_F(Geraetemenue_Test, without_a_tessel2_version_the_choice_from_before_stays)
 {
     Tessel2_Version = 0;
     MNU_IC_Typ_Click(3, 0);
     EXPECT_TRUE(Box.Meldungen.empty());
-    Nichts_Gewaehlt();
+    EXPECT_EQ(IC_Nummer, -1);
+    EXPECT_EQ(Geraetemenue.Haken, -1);
+    MNU_IC_Typ_Click(1, 0);
+    MNU_IC_Typ_Click(3, 0);
+    EXPECT_TRUE(Box.Meldungen.empty());
+    EXPECT_EQ(IC_Nummer, 30);
+    EXPECT_EQ(Geraetemenue.Haken, 30);
+    EXPECT_EQ(Menue("MNU_IC").Titel, "Programmer (28C64)");
+    EXPECT_TRUE(Menue("MNU_IC_Löschen").Aktiv);
+    EXPECT_EQ(Gezeigt("Zeigen Wahl_Tessel2_Version"), 2);
 }
 
 TEST_F(Geraetemenue_Test, the_other_boards_need_no_tessel2_version)
@@ -236,6 +246,98 @@ TEST_F(Geraetemenue_Test, the_version_forms_can_be_opened_at_any_time)
         (std::vector<std::string>{"Zeigen Wahl_Eprommer_Version", "Zeigen Wahl_Tessel2_Version"}));
 }
 
+TEST_F(Geraetemenue_Test, a_new_version_of_the_tessel2_board_is_checked_against_the_device)
+{
+    int Knopf            = 1;
+    Fenster.Bei_Formular = [&Knopf](Formular f) {
+        if (f == Formular::F_Wahl_Tessel2_Version)
+            Wahl_Tessel2_Version_Click(Knopf);
+    };
+    MNU_IC_Typ_Click(3, 1); // 89F54
+    Box.Meldungen.clear();
+    MNU_Tessel2_Hardware_Version_Click();
+    EXPECT_EQ(Letzte_Meldung(),
+              "The Tessel2 programmer layout version 1.2 (or higher) is necessary to program these "
+              "special flash mc!");
+    Nichts_Gewaehlt();
+    MNU_IC_Typ_Click(3, 2); // 89C55WD
+    Knopf = 2;
+    MNU_Tessel2_Hardware_Version_Click();
+    EXPECT_EQ(Letzte_Meldung(), "Please insert jumper J1 if it's not already inserted.");
+    EXPECT_EQ(IC_Nummer, 92);
+    EXPECT_EQ(Geraetemenue.Haken, 92);
+    Knopf = 0;
+    MNU_Tessel2_Hardware_Version_Click();
+    EXPECT_EQ(Letzte_Meldung(),
+              "The Tessel2 programmer layout version 1.1 (or higher) is necessary to program these "
+              "special flash mc!");
+    Nichts_Gewaehlt();
+}
+
+TEST_F(Geraetemenue_Test, a_version_that_stays_or_is_of_another_board_is_not_checked)
+{
+    Fenster.Bei_Formular = [](Formular f) {
+        if (f == Formular::F_Wahl_Tessel2_Version)
+            Wahl_Tessel2_Version_Click(2);
+    };
+    MNU_IC_Typ_Click(3, 2);
+    Box.Meldungen.clear();
+    MNU_Tessel2_Hardware_Version_Click();
+    EXPECT_TRUE(Box.Meldungen.empty());
+    EXPECT_EQ(IC_Nummer, 92);
+    for (const int Gruppe : {0, 2}) {
+        MNU_IC_Typ_Click(Gruppe, 0);
+        const long Vorher = Gezeigt("Zeigen Jumper");
+        Tessel2_Version   = 10;
+        MNU_Tessel2_Hardware_Version_Click();
+        EXPECT_EQ(IC_Nummer, 30 * Gruppe);
+        EXPECT_EQ(Gezeigt("Zeigen Jumper"), Vorher);
+    }
+    EXPECT_TRUE(Box.Meldungen.empty());
+}
+
+TEST_F(Geraetemenue_Test, the_check_leaves_the_part_in_the_simulated_socket)
+{
+    Port_Art = Art_Simuliert;
+    for (const int Gruppe : {0, 3}) {
+        MNU_IC_Typ_Click(Gruppe, 0);
+        dynamic_cast<Simuliertes_Board&>(*Plattform.Port).Baustein()->Inhalt[0] = 0x12;
+        MNU_Typ_Check();
+        EXPECT_EQ(Board_Ansehen().Bytes.substr(0, 5), "12 FF");
+    }
+}
+
+TEST_F(Geraetemenue_Test, the_check_shows_the_jumpers_of_a_device_of_the_eprommer)
+{
+    MNU_IC_Typ_Click(0, 0);
+    MNU_Typ_Check();
+    EXPECT_EQ(Gezeigt("Zeigen Jumper"), 2);
+}
+
+TEST_F(Geraetemenue_Test, jumpers_on_show_follow_a_new_version_of_the_eprommer)
+{
+    int Knopf            = 2;
+    Fenster.Bei_Formular = [&Knopf](Formular f) {
+        if (f == Formular::F_Wahl_Eprommer_Version)
+            Wahl_Eprommer_Version_Click(Knopf);
+    };
+    MNU_IC_Typ_Click(0, 0);
+    ASSERT_TRUE(Fenster.Formular_Sichtbar(Formular::F_Jumper));
+    MNU_Hardware_Version_Click();
+    EXPECT_EQ(Jumper.Version, 32);
+    EXPECT_EQ(Jumper.Titel, "Jumper settings 27C256 (X)");
+    MNU_IC_Typ_Click(2, 0); // has no jumpers
+    Knopf = 0;
+    MNU_Hardware_Version_Click();
+    EXPECT_EQ(Jumper.Titel, "Jumper settings 27C256 (X)");
+    MNU_IC_Typ_Click(0, 0);
+    Fenster.Formular_Entladen(Formular::F_Jumper);
+    Knopf             = 1;
+    const long Vorher = Gezeigt("Zeigen Jumper");
+    MNU_Hardware_Version_Click();
+    EXPECT_EQ(Gezeigt("Zeigen Jumper"), Vorher);
+}
+
 TEST_F(Geraetemenue_Test, each_button_of_the_version_forms_stores_its_number)
 {
     for (int i = 0; i < 3; ++i) {
@@ -292,6 +394,17 @@ TEST_F(Geraetemenue_Test, the_newest_board_has_one_jumper_less_on_its_picture)
         EXPECT_EQ(Jumper.Version, v);
         EXPECT_EQ(Jumper.Ohne_Null, v == 32);
     }
+}
+
+TEST_F(Geraetemenue_Test, the_jumper_that_the_note_speaks_of_is_on_the_picture)
+{
+    for (const int v : {30, 31, 32}) {
+        Eprommer_Version = v;
+        MNU_IC_Typ_Click(0, 1);
+        EXPECT_FALSE(Jumper.Ohne_Null) << v;
+    }
+    MNU_IC_Typ_Click(0, 0);
+    EXPECT_TRUE(Jumper.Ohne_Null) << "with another device it is left out again";
 }
 
 TEST_F(Geraetemenue_Test, the_8_megabit_part_has_a_note_for_each_version_in_both_languages)

@@ -5,8 +5,10 @@
 #include "core/commands.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
+#include "programmer/Board_Ansicht.h"
 #include "programmer/Geraetemenue.h"
 #include "programmer/MC_Welt.h"
+#include "programmer/Port_Einrichtung.h"
 #include "programmer/Special.h"
 
 #include <filesystem>
@@ -650,13 +652,59 @@ TEST_F(Hardware_Test_Welt, the_tessel2_test_can_be_given_up_at_every_box)
     Ueberall_Abbrechen(MNU_Tessel2_Test_Click, Tessel2_Gut());
 }
 
+TEST_F(Hardware_Test_Welt, every_cancel_of_the_tessel2_test_ends_with_the_byte_of_rest)
+{
+    for (const bool Gesund : {true, false}) {
+        Tessel2();
+        Board().Fehler.Klemmt_Auf_0 = Gesund ? 0 : 1;
+        const auto Folge            = Gesund ? Tessel2_Gut() : Diagnose_Folge(Tessel2_Anfang());
+        for (std::size_t i = 0; i < Folge.size(); ++i) {
+            SCOPED_TRACE(i);
+            std::deque<int> a = Gute(Folge, i);
+            a.push_back(Antwort_Abbrechen); // the last box knows OK only
+            Laufen(MNU_Tessel2_Test_Click, "E", a);
+            const std::string Ende = Port_Spur();
+            if (i < 3) // another board may still be at the port
+                EXPECT_EQ(Ende, "");
+            else
+                EXPECT_TRUE(Ende.ends_with(Daten({69}))) << Ende;
+        }
+    }
+}
+
+TEST_F(Hardware_Test_Welt, every_no_of_the_tessel2_test_ends_with_the_byte_of_rest)
+{
+    for (const bool Gesund : {true, false}) {
+        Tessel2();
+        Board().Fehler.Klemmt_Auf_0 = Gesund ? 0 : 1;
+        const auto Folge            = Gesund ? Tessel2_Gut() : Diagnose_Folge(Tessel2_Anfang());
+        for (std::size_t i = 0; i < Folge.size(); ++i) {
+            if (Folge[i].Tasten != Ja_Nein)
+                continue;
+            SCOPED_TRACE(i);
+            std::deque<int> a = Gute(Folge, i);
+            a.push_back(Antwort_Nein);
+            Laufen(MNU_Tessel2_Test_Click, "E", a);
+            EXPECT_EQ(Port_Spur(), Daten({69})) << "behind the box of the failure";
+        }
+    }
+}
+
+TEST_F(Hardware_Test_Welt, the_eprommer_test_has_no_byte_of_rest_of_its_own)
+{
+    Eprommer();
+    const auto Folge = Eprommer_Gut();
+    Laufen(MNU_Eprommer_Test_Click, "E", Gute(Folge, Folge.size()));
+    EXPECT_EQ(Port_Spur(), "");
+}
+
 TEST_F(Hardware_Test_Welt, a_faulty_tessel2_board_is_diagnosed_with_its_own_bytes)
 {
     Tessel2();
     Board().Fehler.Klemmt_Auf_1 = 128;
     const auto Folge            = Diagnose_Folge(Tessel2_Anfang());
     Beide_Sprachen(MNU_Tessel2_Test_Click, Folge);
-    Spur_Vor(4, Daten({251}));
+    Spur_Vor(4, Daten({128 + 85}));
     Spur_Vor(5, Daten({21}));
     std::string s;
     for (int i = 0; i < 8; ++i) {
@@ -713,6 +761,105 @@ TEST_F(Hardware_Test_Welt, a_running_test_writes_its_file_anew)
     Laufen(MNU_Tessel2_Test_Click, "E", {1, 1, 1, 2});
     EXPECT_EQ(Alter(), Groesse) << "not appended";
     EXPECT_EQ(Kaesten.Meldungen.size(), 4u) << "cancel ends it without a diagnosis";
+}
+
+// --- the simulated port of the program ---
+
+class Simulierter_Port_Test : public Hardware_Test_Welt {
+protected:
+    Simulierter_Port_Test()
+    {
+        Port_Art     = Art_Simuliert;
+        Kaesten.Spur = [] {
+            const Board_Bild b = Board_Ansehen();
+            return b.Board + (b.Hat_Baustein ? ", a part" : ", empty");
+        };
+    }
+    ~Simulierter_Port_Test() override
+    {
+        Plattform.Port = nullptr;
+        Port_Einrichtung_Zuruecksetzen();
+    }
+    // A device of that board is chosen; its part in the socket begins with 12h.
+    void Gewaehlt(const char* Name, int Brett)
+    {
+        Geraet(Name, 16).Programmer = Brett;
+        Port_Neu_Oeffnen();
+        Der_Baustein().Inhalt[0] = 0x12;
+    }
+    static Simulierter_Baustein& Der_Baustein()
+    {
+        return *dynamic_cast<Simuliertes_Board&>(*Plattform.Port).Baustein();
+    }
+    void Alle_Auf(const std::string& Erwartet) const
+    {
+        for (const std::string& s : Kaesten.Spuren)
+            EXPECT_EQ(s, Erwartet);
+    }
+};
+
+TEST_F(Simulierter_Port_Test, each_test_has_its_own_board_whatever_device_is_chosen)
+{
+    for (const int Brett : {1, 2, 3}) {
+        SCOPED_TRACE(Brett);
+        Gewaehlt(Brett == 1 ? "27C256" : Brett == 2 ? "89C2051" : "89C51", Brett);
+        const std::string Vorher = Board_Ansehen().Board;
+        Laufen(MNU_Eprommer_Test_Click, "E", Gute(Eprommer_Gut(), Eprommer_Gut().size()));
+        Wie(Eprommer_Gut(), false);
+        Alle_Auf("Eprommer, empty");
+        EXPECT_EQ(Board_Ansehen().Board, Vorher);
+        Laufen(MNU_Tessel2_Test_Click, "E", Gute(Tessel2_Gut(), Tessel2_Gut().size()));
+        Wie(Tessel2_Gut(), false);
+        Alle_Auf("Tessel2, empty");
+        EXPECT_EQ(Board_Ansehen().Board, Vorher);
+        EXPECT_EQ(Der_Baustein().Inhalt[0], 0x12);
+    }
+}
+
+TEST_F(Simulierter_Port_Test, the_tests_need_no_device_either)
+{
+    IC_Nummer = -1;
+    Port_Neu_Oeffnen();
+    Laufen(MNU_Tessel2_Test_Click, "E", Gute(Tessel2_Gut(), Tessel2_Gut().size()));
+    Wie(Tessel2_Gut(), false);
+    EXPECT_EQ(Board_Ansehen().Board, "Eprommer");
+}
+
+TEST_F(Simulierter_Port_Test, a_test_that_is_given_up_brings_the_part_back_too)
+{
+    Gewaehlt("27C256", 1);
+    for (std::size_t i = 0; i + 1 < Tessel2_Gut().size(); ++i) {
+        std::deque<int> a = Gute(Tessel2_Gut(), i);
+        a.push_back(Antwort_Abbrechen);
+        Laufen(MNU_Tessel2_Test_Click, "E", a);
+        EXPECT_EQ(Kaesten.Spuren.back(), "Tessel2, empty");
+        EXPECT_EQ(Board_Ansehen().Board, "Eprommer");
+        EXPECT_EQ(Der_Baustein().Inhalt[0], 0x12);
+    }
+}
+
+TEST_F(Simulierter_Port_Test, a_fault_of_the_board_shows_in_its_own_test_only)
+{
+    for (const int Brett : {1, 3}) {
+        Gewaehlt("27C256", Brett);
+        Board_Stoeren(Board_Stoerung::D0_Auf_0, true);
+        Laufen(MNU_Eprommer_Test_Click, "E", {1, 1, 1, 2});
+        EXPECT_EQ(Kaesten.Meldungen.back().Titel, Brett == 1 ? "TEST 1 Failed!" : "TEST 1 OKAY!");
+        Laufen(MNU_Tessel2_Test_Click, "E", {1, 1, 1, 2});
+        EXPECT_EQ(Kaesten.Meldungen.back().Titel, Brett == 3 ? "TEST 1 Failed!" : "TEST 1 OKAY!");
+        EXPECT_TRUE(Board_Gestoert(Board_Stoerung::D0_Auf_0));
+    }
+}
+
+TEST_F(Simulierter_Port_Test, the_part_can_be_read_as_before_behind_a_test)
+{
+    Gewaehlt("27C256", 1);
+    Laufen(MNU_Tessel2_Test_Click, "E", {1, 1, 1, 2});
+    Hex_Puffer.assign(16, 0);
+    C_Brenner = false;
+    MNU_IC_Lesen_Click();
+    EXPECT_EQ(Hex_Daten[0], 0x12);
+    EXPECT_EQ(Hex_Daten[1], 0xFF);
 }
 
 } // namespace

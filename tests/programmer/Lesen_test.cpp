@@ -1,4 +1,5 @@
 // The read routine of the Eprommer and the menu command over it.
+#include "core/commands.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "core/views.h"

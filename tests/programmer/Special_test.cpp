@@ -1,4 +1,5 @@
 // Start of the port driver and the waits.
+#include "core/commands.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "programmer/Brenner_Welt.h"

@@ -6,10 +6,12 @@
 #include "core/menu.h"
 #include "core/settings.h"
 #include "programmer/Board_Ansicht.h"
+#include "programmer/Brenner_Zustand.h"
 #include "programmer/Brennmenue.h"
 #include "programmer/CheckIC.h"
 #include "programmer/Geraete.h"
 #include "programmer/Geraetemenue.h"
+#include "programmer/Simulierte_Boards.h"
 #include "programmer/Specifications.h"
 
 #include <QCheckBox>
@@ -224,6 +226,36 @@ TEST_F(Geraete_Test, the_menu_has_a_submenu_for_each_group_and_an_entry_for_each
         p->close();
 }
 
+TEST_F(Geraete_Test, all_named_groups_are_shown_with_devices_or_without)
+{
+    Starten_Mit_Bildern();
+    std::string Text;
+    for (int g = 0; g < Gruppen_Anzahl; ++g)
+        Text += "GROUP_NAME#" + std::to_string(g) + " Group " + std::to_string(g) + "\r\n";
+    Spec_Auswerten(Text + "NAME:A\r\n_GROUP:7\r\nEND\r\n");
+    auto* Typen = Fenster->findChild<QMenu*>(QStringLiteral("MNU_IC_Typ_Menue"));
+    ASSERT_NE(Typen, nullptr);
+    Typen->popup(QPoint(0, 0));
+    ASSERT_EQ(Typen->actions().size(), Gruppen_Anzahl);
+    for (int g = 0; g < Gruppen_Anzahl; ++g) {
+        QAction* a = Typen->actions().at(g);
+        EXPECT_EQ(a->text(), QStringLiteral("GROUP %1").arg(g));
+        EXPECT_TRUE(a->isVisible());
+        EXPECT_EQ(a->menu()->actions().size(), g == 7 ? 1 : 0);
+    }
+    Typen->close();
+}
+
+TEST_F(Geraete_Test, a_group_with_neither_name_nor_devices_is_not_shown)
+{
+    Starten_Mit_Bildern();
+    Spec_Auswerten("GROUP_NAME#3 X\r\n");
+    auto* Typen = Fenster->findChild<QMenu*>(QStringLiteral("MNU_IC_Typ_Menue"));
+    Typen->popup(QPoint(0, 0));
+    EXPECT_EQ(Typen->actions().size(), 1);
+    Typen->close();
+}
+
 TEST_F(Geraete_Test, a_device_of_the_eprommer_asks_for_the_version_and_shows_its_jumpers)
 {
     Starten_Mit_Bildern();
@@ -237,6 +269,7 @@ TEST_F(Geraete_Test, a_device_of_the_eprommer_asks_for_the_version_and_shows_its
     QDialog* Form = Offene("Jumper");
     ASSERT_NE(Form, nullptr);
     EXPECT_EQ(Form->windowTitle(), QStringLiteral("Jumper settings 27C64"));
+    EXPECT_FALSE(Form->testAttribute(Qt::WA_ShowWithoutActivating)) << "Enter closes it";
     for (int i = 0; i < 5; ++i)
         EXPECT_TRUE(Form->findChild<QWidget*>(QStringLiteral("Jumper_%1").arg(i))->isVisible());
     Nichts_Abgeschnitten(*Form);
@@ -260,8 +293,14 @@ TEST_F(Geraete_Test, the_jumpers_are_drawn_and_follow_the_version)
     Eprommer_Version = 32;
     Geraet_Waehlen("27C080");
     EXPECT_TRUE(Wert(Form, "Hinweis").starts_with("ACHTUNG: Für den Zugriff auf den unteren 4MB"));
+    EXPECT_TRUE(Teil<QWidget>("Jumper_0", Form)->isVisible()) << "the note speaks of it";
+    Nichts_Abgeschnitten(*Form);
+    const QImage Mit_Null = Teil<QWidget>("Board", Form)->grab().toImage();
+    Form->hide();
+    Geraet_Waehlen("27C040");
     EXPECT_FALSE(Teil<QWidget>("Jumper_0", Form)->isVisible());
     EXPECT_TRUE(Teil<QWidget>("Jumper_1", Form)->isVisible());
+    EXPECT_NE(Teil<QWidget>("Board", Form)->grab().toImage(), Mit_Null);
     EXPECT_NE(Form->grab().toImage(), Alt);
     // A jumper's picture is more than an empty frame.
     const QImage   Bild = Teil<QWidget>("Jumper_1", Form)->grab().toImage();
@@ -308,6 +347,54 @@ TEST_F(Geraete_Test, the_version_of_the_tessel2_board_decides_on_a_device)
     Antworten.Taste(QMessageBox::Ok);
     Geraet_Waehlen("89F54");
     EXPECT_EQ(IC_Nummer, Geraet_Suchen("89F54"));
+}
+
+TEST_F(Geraete_Test, a_version_question_that_is_closed_leaves_the_device_from_before)
+{
+    Starten_Mit_Bildern();
+    Eprom_Waehlen("28C256");
+    Form_Kommt("Wahl_Tessel2_Version", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); });
+    Geraet_Waehlen("89C52");
+    EXPECT_TRUE(Antworten.Fertig());
+    EXPECT_EQ(IC_Nummer, Geraet_Suchen("28C256"));
+    EXPECT_TRUE(Angehakt("28C256"));
+    EXPECT_FALSE(Angehakt("89C52"));
+    EXPECT_EQ(Aktion("MNU_IC")->text().remove(QLatin1Char('&')),
+              QStringLiteral("Programmer (28C256)"));
+}
+
+TEST_F(Geraete_Test, an_older_version_takes_the_device_away_that_it_cannot_serve)
+{
+    Starten_Mit_Bildern("D");
+    MC_Waehlen("89F54");
+    Version_Kommt("Wahl_Tessel2_Version", "Version_11");
+    Antworten.Taste(QMessageBox::Ok);
+    Antworten.Texte.clear();
+    Aktion("MNU_Tessel2_Hardware_Version")->trigger();
+    EXPECT_TRUE(Antworten.Fertig());
+    ASSERT_FALSE(Antworten.Texte.empty());
+    EXPECT_TRUE(Antworten.Texte.back().starts_with("Um diesen speziellen Flash MC"));
+    EXPECT_EQ(IC_Nummer, -1);
+    EXPECT_FALSE(Angehakt("89F54"));
+}
+
+TEST_F(Geraete_Test, a_test_of_the_other_board_passes_and_leaves_the_part)
+{
+    Starten_Mit_Bildern();
+    Eprom_Waehlen();
+    Tessel2_Version = 12;
+    EXPECT_EQ(Board_Ansehen().Board, "Eprommer");
+    dynamic_cast<Simuliertes_Board&>(*Plattform.Port).Baustein()->Inhalt[0] = 0x12;
+    for (int i = 0; i < 3; ++i)
+        Antworten.Taste(QMessageBox::Ok);
+    Antworten.Taste(QMessageBox::Cancel); // behind test 1
+    Antworten.Texte.clear();
+    Aktion("MNU_Tessel2_Test")->trigger();
+    ASSERT_EQ(Antworten.Texte.size(), 4u);
+    EXPECT_TRUE(Antworten.Texte.back().starts_with("Just in this moment, a automatic test was "
+                                                   "finished sucessfully."));
+    EXPECT_EQ(Board_Ansehen().Board, "Eprommer");
+    EXPECT_EQ(Board_Ansehen().Bytes.substr(0, 5), "12 FF");
 }
 
 class Geraete_Sprachen : public Geraete_Test, public ::testing::WithParamInterface<const char*> {
@@ -543,6 +630,191 @@ TEST_F(Geraete_Test, a_part_of_the_image_gives_differences_in_a_table)
     EXPECT_FALSE(CheckIC.Offen);
 }
 
+TEST_F(Geraete_Test, the_table_of_differences_is_of_what_was_read_for_it)
+{
+    Starten_Mit_Bildern();
+    Eprom_Waehlen();
+    Form_Kommt("Brennmenue", [](QWidget* w) {
+        Schreiben(w, "ED_LBA_D", "15");
+        Druecken(w, "Brennen");
+    });
+    Taste(Qt::Key_B, Qt::ControlModifier);
+    QDialog* Form = Offene("CheckIC");
+    ASSERT_NE(Form, nullptr);
+    Board_UV_Loeschen(); // and another read, into the buffer that both share
+    Form_Kommt("Brennmenue", [](QWidget* w) {
+        EXPECT_EQ(Wert(w, "IC_LBA_D"), "EMPTY");
+        QTest::keyClick(w, Qt::Key_Escape);
+    });
+    Taste(Qt::Key_B, Qt::ControlModifier);
+    ASSERT_EQ(Offene("CheckIC"), Form);
+    Druecken(Form, "Button_Dat");
+    const QString Text = Teil<QPlainTextEdit>("Text", Form)->toPlainText();
+    EXPECT_GT(Text.count(QLatin1Char('\n')), 3);
+    EXPECT_FALSE(Text.contains(QStringLiteral("\n000000 |"))) << Text.left(200).toStdString();
+    Druecken(Form, "Button_OK");
+}
+
+TEST_P(Geraete_Sprachen, a_device_without_a_programming_routine_is_told)
+{
+    Starten_Mit_Bildern(GetParam());
+    Eprom_Waehlen();
+    Geraete_Tabelle[static_cast<std::size_t>(IC_Nummer)].P_Typ = "XYZ";
+    const std::string Text =
+        Deutsch() ? "27C64 kann nicht gebrannt werden: für seinen Typ gibt es keine Brennroutine."
+                  : "27C64 can't be programmed: there is no programming routine for its type.";
+    Form_Kommt("Brennmenue", [this, Text](QWidget* w) {
+        EXPECT_EQ(Wert(w, "Vorschau"), Text);
+        Antworten.Taste(QMessageBox::Ok);
+        Druecken(w, "Brennen");
+        EXPECT_TRUE(w->isVisible());
+        Druecken(w, "Abbrechen");
+    });
+    Taste(Qt::Key_B, Qt::ControlModifier);
+    EXPECT_TRUE(Antworten.Fertig());
+    ASSERT_EQ(Antworten.Texte.size(), 1u);
+    EXPECT_EQ(Antworten.Texte[0], Text);
+}
+
+// --- the way of a new user ---
+
+class Gang_Test : public Geraete_Test {
+protected:
+    static constexpr std::size_t Bytes = 8192; // of an 89C52
+
+    // Presses the button in the programming dialog after Ansehen, and closes the comparison; its
+    // verdict.
+    std::string Brennen(std::function<void(QWidget*)> Ansehen)
+    {
+        Form_Kommt("Brennmenue", [Ansehen = std::move(Ansehen)](QWidget* w) {
+            Ansehen(w);
+            Druecken(w, "Brennen");
+        });
+        Taste(Qt::Key_B, Qt::ControlModifier);
+        return Vergleich_Schliessen();
+    }
+    std::string Pruefen()
+    {
+        Taste(Qt::Key_I, Qt::ControlModifier);
+        return Vergleich_Schliessen();
+    }
+    std::string Vergleich_Schliessen()
+    {
+        QDialog* Form = Offene("CheckIC");
+        if (Form == nullptr)
+            return "no comparison";
+        const std::string Urteil = Wert(Form, "Ergebnis");
+        Druecken(Form, "Button_OK");
+        return Urteil;
+    }
+    void Lesen()
+    {
+        Datei_Geaendert = false;
+        Aktion("MNU_IC_Lesen")->trigger();
+        QApplication::processEvents();
+    }
+    void Sockel(const char* Haken)
+    {
+        QDialog* Form = Board_Oeffnen();
+        ASSERT_NE(Form, nullptr);
+        Druecken(Form, Haken);
+        Druecken(Form, "Zu");
+    }
+    static std::vector<std::uint8_t> Anfang_Des_Bilds()
+    {
+        return {Hex_Daten.begin(), Hex_Daten.begin() + Bytes};
+    }
+};
+
+TEST_F(Gang_Test, choose_program_erase_verify_take_out_read_lock_and_read)
+{
+    const std::string Gleich =
+        "The IC data is equivalent to the editor data in the whole area of the ic.";
+    const std::vector<std::uint8_t> Leer(Bytes, 0xFF);
+    Starten_Mit_Bildern();
+    MC_Waehlen();
+    EXPECT_EQ(Brennen([](QWidget* w) {
+                  EXPECT_FALSE(w->findChild<QCheckBox*>(QStringLiteral("Löschen"))->isChecked());
+              }),
+              Gleich);
+    const std::vector<std::uint8_t> Programm = Anfang_Des_Bilds();
+    EXPECT_NE(Programm, Leer);
+
+    // Once more, now over the old contents.
+    EXPECT_EQ(Brennen([](QWidget* w) {
+                  EXPECT_TRUE(w->findChild<QCheckBox*>(QStringLiteral("Löschen"))->isChecked());
+                  EXPECT_NE(Wert(w, "Vorschau")
+                                .find("The whole IC is erased before. 0 bytes of "
+                                      "the whole IC change."),
+                            std::string::npos)
+                      << Wert(w, "Vorschau");
+              }),
+              Gleich);
+    EXPECT_EQ(Pruefen(), Gleich);
+
+    // Out of the socket, and in again.
+    Sockel("Stoerung_1");
+    Antworten.Texte.clear();
+    Antworten.Taste(QMessageBox::Cancel);
+    Lesen();
+    ASSERT_EQ(Antworten.Texte.size(), 1u);
+    EXPECT_NE(Antworten.Texte[0].find("There is no AT89C"), std::string::npos);
+    EXPECT_NE(Anfang_Des_Bilds(), Programm);
+    Sockel("Stoerung_1");
+    Lesen();
+    EXPECT_EQ(Anfang_Des_Bilds(), Programm);
+
+    // Locked, it shows nothing.
+    Form_Kommt("Lockmenu", [this](QWidget* w) {
+        Druecken(w, "Option4");
+        Antworten.Taste(QMessageBox::Ok);
+        Druecken(w, "Command1");
+    });
+    Taste(Qt::Key_G, Qt::ControlModifier);
+    Lesen();
+    EXPECT_EQ(Anfang_Des_Bilds(), Leer);
+
+    // An erase opens it.
+    Aktion("MNU_IC_Löschen")->trigger();
+    QApplication::processEvents();
+    QDialog* Form = Offene("CheckIC");
+    ASSERT_NE(Form, nullptr);
+    EXPECT_EQ(Wert(Form, "Zustand_IC"), "Clear");
+    Druecken(Form, "Button_OK");
+    EXPECT_EQ(Brennen([](QWidget*) {}), Gleich);
+    Lesen();
+    EXPECT_EQ(Anfang_Des_Bilds(), Programm);
+    EXPECT_TRUE(Antworten.Fertig());
+}
+
+TEST_F(Gang_Test, a_locked_part_takes_nothing_until_it_is_erased)
+{
+    Starten_Mit_Bildern("D");
+    MC_Waehlen();
+    Form_Kommt("Lockmenu", [this](QWidget* w) {
+        Druecken(w, "Option3");
+        Antworten.Taste(QMessageBox::Ok);
+        Druecken(w, "Command1");
+    });
+    Taste(Qt::Key_G, Qt::ControlModifier);
+    Antworten.Texte.clear();
+    Form_Kommt("Brennmenue", [this](QWidget* w) {
+        EXPECT_EQ(Wert(w, "IC_LBA_D"), "LEER");
+        Antworten.Taste(QMessageBox::Ok);
+        Druecken(w, "Brennen");
+    });
+    Taste(Qt::Key_B, Qt::ControlModifier);
+    ASSERT_EQ(Antworten.Texte.size(), 1u);
+    EXPECT_TRUE(Antworten.Texte[0].starts_with("Fehler beim Brennen der Adresse 0(dez)"));
+    EXPECT_EQ(Offene("CheckIC"), nullptr);
+    EXPECT_EQ(Brennen([](QWidget* w) {
+                  Druecken(w, "Löschen");
+                  EXPECT_NE(Wert(w, "Vorschau").find("Vorher wird das ganze IC gelöscht."),
+                            std::string::npos);
+              }),
+              "Die Daten des IC entsprechen den Daten des Editors im gesamten Bereich des IC.");
+}
+
 TEST_F(Geraete_Test, the_comparison_speaks_german)
 {
     Starten_Mit_Bildern("D");
@@ -723,6 +995,92 @@ TEST_F(Geraete_Test, an_eprom_has_no_faults_of_a_microcontroller_and_is_erased_b
     Form->hide();
 }
 
+TEST_F(Geraete_Test, the_board_window_offers_the_faults_of_the_family_in_the_socket)
+{
+    struct Zeile_T {
+        const char*   Name;
+        std::set<int> Aktiv; // of the faults behind those that each board knows
+        bool          Seiten;
+    };
+    const Zeile_T Zeilen[] = {{"27C256", {}, false},
+                              {"28F010", {6}, false},
+                              {"29C040", {7}, true},
+                              {"27SF512", {6, 8}, false},
+                              {"28C64", {6, 7}, false},
+                              {"48T08", {}, false},
+                              {"89C2051", {4, 5, 6}, false},
+                              {"89C52", {4, 5, 6, 9}, false},
+                              {"89S53", {4, 5, 6}, false}};
+    Starten_Mit_Bildern("D");
+    Eprommer_Version = 32;
+    Tessel2_Version  = 10; // has no jumper to be reminded of
+    for (const Zeile_T& z : Zeilen) {
+        Geraet_Waehlen(z.Name);
+        QDialog* Form = Board_Oeffnen();
+        ASSERT_NE(Form, nullptr);
+        for (int i = 0; i < Board_Stoerungen; ++i) {
+            auto* Haken = Teil<QCheckBox>(("Stoerung_" + std::to_string(i)).c_str(), Form);
+            EXPECT_EQ(Haken->isEnabled(), i < 4 || z.Aktiv.contains(i)) << z.Name << " " << i;
+        }
+        EXPECT_TRUE(Teil<QPushButton>("Schwache_Zelle", Form)->isEnabled());
+        EXPECT_EQ(Teil<QPushButton>("Schlechte_Seite", Form)->isEnabled(), z.Seiten) << z.Name;
+        Nichts_Abgeschnitten(*Form);
+        Form->hide();
+    }
+}
+
+TEST_F(Geraete_Test, a_dead_page_fails_the_programming_and_a_new_part_takes_it)
+{
+    Starten_Mit_Bildern();
+    Eprommer_Version = 32;
+    Geraet_Waehlen("29C040");
+    QDialog* Form = Board_Oeffnen();
+    ASSERT_NE(Form, nullptr);
+    Antworten.Texte.clear();
+    Antworten.Taste(QMessageBox::Ok);
+    Schreiben(Form, "Tote_Adresse", "80000"); // the first one beyond the part
+    Druecken(Form, "Schlechte_Seite");
+    EXPECT_EQ(Antworten.Texte.back(), "The IC doesn't have that address.");
+    Schreiben(Form, "Tote_Adresse", "0");
+    Druecken(Form, "Schlechte_Seite");
+    EXPECT_EQ(Wert(Form, "Wert_5"), "1");
+    Form->hide();
+    Antworten.Texte.clear();
+    Form_Kommt("Brennmenue", [this](QWidget* w) {
+        Antworten.Taste(QMessageBox::Ok);
+        Druecken(w, "Brennen");
+    });
+    Taste(Qt::Key_B, Qt::ControlModifier);
+    ASSERT_EQ(Antworten.Texte.size(), 1u);
+    EXPECT_NE(Antworten.Texte[0].find("can't be programmed successfully"), std::string::npos);
+    Form->show();
+    Druecken(Form, "Neuer");
+    Form->hide();
+    Form_Kommt("Brennmenue", [](QWidget* w) { Druecken(w, "Brennen"); });
+    Taste(Qt::Key_B, Qt::ControlModifier);
+    EXPECT_EQ(Antworten.Texte.size(), 1u);
+    QDialog* Check = Offene("CheckIC");
+    ASSERT_NE(Check, nullptr);
+    Druecken(Check, "Button_OK");
+}
+
+TEST_F(Geraete_Test, a_weak_cell_is_asked_for_in_the_board_window)
+{
+    Starten_Mit_Bildern();
+    Eprom_Waehlen();
+    QDialog* Form = Board_Oeffnen();
+    ASSERT_NE(Form, nullptr);
+    Schreiben(Form, "Tote_Adresse", "0");
+    Druecken(Form, "Schwache_Zelle");
+    Form->hide();
+    Form_Kommt("Brennmenue", [](QWidget* w) { Druecken(w, "Brennen"); });
+    Taste(Qt::Key_B, Qt::ControlModifier);
+    EXPECT_EQ(Versuch_Statistik[Schwache_Pulse], 1);
+    QDialog* Check = Offene("CheckIC");
+    ASSERT_NE(Check, nullptr);
+    Druecken(Check, "Button_OK");
+}
+
 TEST_F(Geraete_Test, a_dead_cell_stops_the_programming)
 {
     Starten_Mit_Bildern();
@@ -785,6 +1143,8 @@ TEST_F(Geraete_Test, the_hardware_test_shows_its_jumpers_and_can_be_given_up)
         EXPECT_NE(Form, nullptr);
         if (Form != nullptr) {
             EXPECT_EQ(Form->windowTitle(), QStringLiteral("Jumper settings "));
+            EXPECT_FALSE(Form->isActiveWindow()) << "the box would be put over the picture";
+            EXPECT_TRUE(Form->testAttribute(Qt::WA_ShowWithoutActivating));
         }
         EXPECT_EQ(IC_Nummer, 610);
         auto* Box = qobject_cast<QMessageBox*>(w);
