@@ -50,8 +50,8 @@ void MNU_Hex_Click();
 // Brings Modus to that mode and shows its window, without assembling or disassembling.
 void In_Modus_Wechseln(int Neuer);
 
-// core/session.cpp: ends a debugger session; what belongs to one is disabled. The other commands of a
-// session stand in simulator/Sitzung.h.
+// core/session.cpp: ends a debugger session; what belongs to one is disabled. The other commands of
+// a session stand in simulator/Sitzung.h.
 void Debug_Beenden();
 
 // core/undo.cpp

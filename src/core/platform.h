@@ -131,9 +131,9 @@ public:
     virtual void         Reich_Setzen(const Reich_Text_T& Neuer); // caret at 0
     virtual Reich_Text_T Auswahl_Reich() const;
     virtual void         Auswahl_Ersetzen_Reich(const Reich_Text_T& Neuer);
-    virtual void                      Zeichnen_Anhalten(bool Angehalten)   = 0; // freeze, thaw
-    virtual void                      Sperren(bool Gesperrt)               = 0; // read only
-    virtual void                      Fokus()                              = 0;
+    virtual void         Zeichnen_Anhalten(bool Angehalten) = 0; // freeze, thaw
+    virtual void         Sperren(bool Gesperrt)             = 0; // read only
+    virtual void         Fokus()                            = 0;
     // False: nobody ever looks at it, so that colours are not worth their time.
     virtual bool Wird_Gezeigt() const { return true; }
 };
@@ -234,27 +234,28 @@ struct Druckwahl_T {
     bool Markierung          = false; // it was chosen
 };
 
-// The printer: lines of text in a font, page after page. A preview or a PDF file may stand behind it.
+// The printer: lines of text in a font, page after page. A preview or a PDF file may stand behind
+// it.
 class Drucker {
 public:
     virtual ~Drucker()                      = default;
     virtual void Einrichten()               = 0; // the setup dialog
     virtual bool Waehlen(Druckwahl_T& Wahl) = 0; // the print dialog; false: cancelled
     // Begins a document on its first page; false when there is nothing to print on, which is told.
-    virtual bool Beginnen(std::string_view Titel)        = 0;
-    virtual void Schrift(const Schrift_T& Schrift)       = 0;
-    virtual int  Zeilen_Je_Seite() const                 = 0; // in that font, at least 1
-    virtual int  Zeichen_Je_Zeile() const                = 0; // in that font, of its widest, at least 1
-    // A line (UTF-8, no line end); colours by characters from 0, black elsewhere. What is wider than
-    // the page is clipped: false.
+    virtual bool Beginnen(std::string_view Titel)  = 0;
+    virtual void Schrift(const Schrift_T& Schrift) = 0;
+    virtual int  Zeilen_Je_Seite() const           = 0; // in that font, at least 1
+    virtual int  Zeichen_Je_Zeile() const          = 0; // in that font, of its widest, at least 1
+    // A line (UTF-8, no line end); colours by characters from 0, black elsewhere. What is wider
+    // than the page is clipped: false.
     virtual bool Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben) = 0;
     // False when the printer fails; then the document is to be ended.
     virtual bool Neue_Seite() = 0;
     // Ends the document. One that isn't whole, since it was given up, keeps its pages on paper, but
     // becomes no file. False when the printer has failed, which is told.
     virtual bool        Beenden(bool Ganz) = 0;
-    virtual std::string Datum() const   = 0; // 10 characters: "20.11.2026"
-    virtual std::string Uhrzeit() const = 0; // 8 characters: "17:05:09"
+    virtual std::string Datum() const      = 0; // 10 characters: "20.11.2026"
+    virtual std::string Uhrzeit() const    = 0; // 8 characters: "17:05:09"
 };
 
 // A shell file association.
@@ -293,7 +294,7 @@ public:
     virtual void   Wartet(std::int64_t Mikrosekunden) = 0;
     // A busy wait of Dauer microseconds that counts from the stamp Anfang, taken some time ago.
     virtual void Wartet_Seit(std::int64_t /*Anfang*/, std::int64_t Dauer) { Wartet(Dauer); }
-    virtual void   Sekunden_Wartet(double Sekunden)   = 0;
+    virtual void Sekunden_Wartet(double Sekunden) = 0;
 };
 
 // Everything behind the wall, one pointer each, never null: until a program puts its own world in

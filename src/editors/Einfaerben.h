@@ -16,7 +16,7 @@ inline constexpr std::int32_t Farbe_Marke     = 0xDD1111; // line start through 
 inline constexpr std::int32_t Farbe_Kommentar = 0x119911; // from ";" or "'" to the line's end
 
 inline struct Einfaerben_T {
-    std::uint64_t Lauf       = 0;     // number of the last colouring begun
+    std::uint64_t Lauf = 0; // number of the last colouring begun
 } Einfaerben;
 
 // The state as at program start.

@@ -81,9 +81,9 @@ inline struct Brennlauf_T {
     int                          Versuch     = 1;     // attempt for this address, 1 to 11
     bool                         Puls_an_C2  = false; // the pulse goes out on C2 too
     std::array<std::int32_t, 20> Versuch_Statistik{}; // addresses by the attempts that they took
-    int          Alt_Byte       = 0xFFFF; // byte in the 74HC595, FFFFh when unknown
-    std::int32_t Seiten_Groesse = 1;      // bytes of a page, of a device that is written by pages
-    Brenn_Ausgang                Brenn_Ergebnis = Brenn_Ausgang::Keiner;
+    int                          Alt_Byte = 0xFFFF;   // byte in the 74HC595, FFFFh when unknown
+    std::int32_t  Seiten_Groesse = 1; // bytes of a page, of a device that is written by pages
+    Brenn_Ausgang Brenn_Ergebnis = Brenn_Ausgang::Keiner;
 } Brennlauf;
 
 inline constinit auto& Versatz           = Brennlauf.Versatz;

@@ -88,25 +88,25 @@ protected:
     void dropEvent(QDropEvent* Ereignis) override;
 
 private:
-    void Welt_Einsetzen();
-    void Kinder_Bauen();
-    void Sitzungs_Kinder_Bauen();
-    void Einsetzen(int Nummer, const char* Name, QWidget* Inhalt, bool Hauptsache);
-    void Kinder_Verbinden();
-    void Kind_Aktiviert(QMdiSubWindow* Neues);
-    void Datei_Oeffnen(const QString& Name);
-    void Fremde_Aenderung(const QString& Name);
-    void Zeigen_Falls_Noetig();
+    void        Welt_Einsetzen();
+    void        Kinder_Bauen();
+    void        Sitzungs_Kinder_Bauen();
+    void        Einsetzen(int Nummer, const char* Name, QWidget* Inhalt, bool Hauptsache);
+    void        Kinder_Verbinden();
+    void        Kind_Aktiviert(QMdiSubWindow* Neues);
+    void        Datei_Oeffnen(const QString& Name);
+    void        Fremde_Aenderung(const QString& Name);
+    void        Zeigen_Falls_Noetig();
     static void Hilfe_Zeigen(std::unique_ptr<QWidget>& Form);
-    void Auf_Den_Schirm();
-    void Platz_Merken();
-    void Auf_Groesse_Warten();
-    void Fokus_Zurueck();
-    void Qt_Texte_Waehlen();
-    void Ansichten_Nachziehen();
-    bool Kann_Eingreifen() const;
-    void Bearbeiten_Menue(const QPoint& Ort);
-    void Notiz_Menue_Zeigen(const QPoint& Ort);
+    void        Auf_Den_Schirm();
+    void        Platz_Merken();
+    void        Auf_Groesse_Warten();
+    void        Fokus_Zurueck();
+    void        Qt_Texte_Waehlen();
+    void        Ansichten_Nachziehen();
+    bool        Kann_Eingreifen() const;
+    void        Bearbeiten_Menue(const QPoint& Ort);
+    void        Notiz_Menue_Zeigen(const QPoint& Ort);
 
     Qt_Box        Box{};
     Qt_Ereignisse Ereignisse{};
@@ -118,31 +118,31 @@ private:
 
     QMdiArea*        Flaeche = nullptr;
     QTranslator      Qt_Deutsch{}; // Qt's own dialogs; in use while the language is German
-    std::string      Qt_Sprache = "E";
-    Menueleiste*     Leisten    = nullptr;
-    Statuszeile*     Zeile      = nullptr;
-    Dateiwaechter*   Waechter   = nullptr;
-    Fremd_Hinweis*   Fremd      = nullptr; // the bar that tells of another program's change
-    Quelltext_Feld*  Edit       = nullptr;
-    Hexedit_Fenster* Hex        = nullptr;
-    Spr_Fenster*     Spr        = nullptr;
-    Notiz_Feld*      Notiz      = nullptr;
-    Tafel_Fenster*   Bef        = nullptr;
-    Tafel_Fenster*   Basic_Bef  = nullptr;
-    F_SIM_RAM*       Sim_RAM_Fenster     = nullptr;
-    F_SIM_SFR*       Sim_SFR_Fenster     = nullptr;
-    F_SIM_EXRAM*     Sim_EXRAM_Fenster   = nullptr;
+    std::string      Qt_Sprache        = "E";
+    Menueleiste*     Leisten           = nullptr;
+    Statuszeile*     Zeile             = nullptr;
+    Dateiwaechter*   Waechter          = nullptr;
+    Fremd_Hinweis*   Fremd             = nullptr; // the bar that tells of another program's change
+    Quelltext_Feld*  Edit              = nullptr;
+    Hexedit_Fenster* Hex               = nullptr;
+    Spr_Fenster*     Spr               = nullptr;
+    Notiz_Feld*      Notiz             = nullptr;
+    Tafel_Fenster*   Bef               = nullptr;
+    Tafel_Fenster*   Basic_Bef         = nullptr;
+    F_SIM_RAM*       Sim_RAM_Fenster   = nullptr;
+    F_SIM_SFR*       Sim_SFR_Fenster   = nullptr;
+    F_SIM_EXRAM*     Sim_EXRAM_Fenster = nullptr;
     F_SIM_CONTROL*   Sim_CONTROL_Fenster = nullptr;
 
-    std::array<Kindfenster*, 11>            Kinder{};    // by window number; 0 is unused
+    std::array<Kindfenster*, 11>                          Kinder{}; // by window number; 0 is unused
     std::array<std::unique_ptr<QWidget>, Formular_Anzahl> Formulare{}; // those that stay open
-    std::function<void()>                   Ende{};      // empty: the event loop is left
-    QPointer<QWidget> Fokus_Vorher{}; // who had the focus when the windows were disabled
-    int               Aktives_Kind  = 0;
-    bool              Befehl_Laeuft   = false;
-    bool              Eingriff_Laeuft = false; // a command within the free run
-    std::function<void()> Danach{}; // waits for the end of the run
-    bool              Beendet       = false;
+    std::function<void()>                                 Ende{}; // empty: the event loop is left
+    QPointer<QWidget>     Fokus_Vorher{}; // who had the focus when the windows were disabled
+    int                   Aktives_Kind    = 0;
+    bool                  Befehl_Laeuft   = false;
+    bool                  Eingriff_Laeuft = false; // a command within the free run
+    std::function<void()> Danach{};                // waits for the end of the run
+    bool                  Beendet = false;
 };
 
 } // namespace varnholt

@@ -342,8 +342,8 @@ RC_GTEST_FIXTURE_PROP(Hexablage, any_walk_of_keys_mouse_and_window_keeps_page_an
     const auto Folge = *rc::gen::container<std::vector<std::pair<int, int>>>(
         15, rc::gen::pair(rc::gen::inRange(0, 12), rc::gen::inRange(0, 400)));
     for (const auto& [Was, Wert] : Folge) {
-        const bool Hex   = Wert % 2 == 0;
-        Hex_Aktives_Feld = Hex ? Feld_Hex : Feld_AscII;
+        const bool Hex      = Wert % 2 == 0;
+        Hex_Aktives_Feld    = Hex ? Feld_Hex : Feld_AscII;
         const auto Druecken = [&](const Taste_T& t) {
             if (Hex)
                 Hex_Feld_KeyDown(t);
@@ -355,7 +355,9 @@ RC_GTEST_FIXTURE_PROP(Hexablage, any_walk_of_keys_mouse_and_window_keeps_page_an
         else if (Was < 8)
             Druecken(Zeichen_Taste("0123456789ABCDEF x"[Wert % 18]));
         else if (Was == 8)
-            Druecken(Wert % 3 == 0 ? Strg('V') : Wert % 3 == 1 ? Strg('X') : Taste(Taste_Entfernen));
+            Druecken(Wert % 3 == 0   ? Strg('V')
+                     : Wert % 3 == 1 ? Strg('X')
+                                     : Taste(Taste_Entfernen));
         else if (Was == 9) {
             (Hex ? Hexedit.Hex_Auswahl : Hexedit.AscII_Auswahl) = {Wert, Wert % 7};
             (Hex ? Hex_Feld_MouseUp : AscII_Feld_MouseUp)();
