@@ -78,7 +78,7 @@ public:
     bool        Beginnen(std::string_view) override { return false; }
     void        Schrift(const Schrift_T&) override {}
     int         Zeilen_Je_Seite() const override { return 1; }
-    int         Zeichen_Je_Zeile() const override { return 1; }
+    bool        Passt(std::string_view) const override { return true; }
     bool        Zeile(std::string_view, std::span<const Farbstelle_T>) override { return true; }
     bool        Neue_Seite() override { return true; }
     bool        Beenden(bool) override { return true; }

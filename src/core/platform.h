@@ -245,14 +245,16 @@ public:
     virtual bool Beginnen(std::string_view Titel)  = 0;
     virtual void Schrift(const Schrift_T& Schrift) = 0;
     virtual int  Zeilen_Je_Seite() const           = 0; // in that font, at least 1
-    virtual int  Zeichen_Je_Zeile() const          = 0; // in that font, of its widest, at least 1
+    // Whether a line (UTF-8) is wholly on the sheet in that font.
+    virtual bool Passt(std::string_view Text) const = 0;
     // A line (UTF-8, no line end); colours by characters from 0, black elsewhere. What is wider
     // than the page is clipped: false.
     virtual bool Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben) = 0;
     // False when the printer fails; then the document is to be ended.
     virtual bool Neue_Seite() = 0;
     // Ends the document. One that isn't whole, since it was given up, keeps its pages on paper, but
-    // becomes no file. False when the printer has failed, which is told.
+    // becomes no file. False when nothing came of it: the printer has failed, which is told, or the
+    // user closed the preview.
     virtual bool        Beenden(bool Ganz) = 0;
     virtual std::string Datum() const      = 0; // 10 characters: "20.11.2026"
     virtual std::string Uhrzeit() const    = 0; // 8 characters: "17:05:09"

@@ -27,7 +27,7 @@ constexpr int         Fuss_Einzug   = 7;
 constexpr int         Pfad_Einzug   = 12; // in the footer of a page of text
 
 // The widest line of a page: blanks, both addresses, 16 bytes, 16 characters.
-constexpr int Hex_Zeichen_Je_Zeile = 7 + 6 + 2 + 6 + 1 + 16 * 3 + 2 + 16;
+constexpr std::size_t Hex_Zeichen_Je_Zeile = 7 + 6 + 2 + 6 + 1 + 16 * 3 + 2 + 16;
 
 constexpr std::string_view Spalten_Kopf =
     "Dez.    Hex.    .0..1..2..3..4..5..6..7..8..9..A..B..C..D..E..F  ASCII           ";
@@ -35,16 +35,10 @@ constexpr std::string_view Spalten_Kopf =
 // Bytes that print as a point: a printer would take them for a command, or show nothing.
 constexpr std::uint8_t Als_Punkt[] = {0, 2, 9, 10, 13, 15, 18, 32};
 
-std::size_t Zeichen_Anzahl(std::string_view Text)
-{
-    return static_cast<std::size_t>(
-        std::count_if(Text.begin(), Text.end(), [](char c) { return !Ist_Folgebyte(c); }));
-}
-
 // At most that many characters from the end, where a path says most.
-std::string_view Ende_Von(std::string_view Text, std::size_t Hoechstens)
+std::string_view Ende_Von(std::string_view Text, std::int64_t Hoechstens)
 {
-    for (std::size_t n = Zeichen_Anzahl(Text); n > Hoechstens; --n) {
+    for (std::int64_t n = Zeichen_Im(Text); n > Hoechstens; --n) {
         Text.remove_prefix(1);
         while (!Text.empty() && Ist_Folgebyte(Text.front()))
             Text.remove_prefix(1);
@@ -54,7 +48,7 @@ std::string_view Ende_Von(std::string_view Text, std::size_t Hoechstens)
 
 std::string Mit_Strichen(std::string Text, std::size_t Breite)
 {
-    const std::size_t n = Zeichen_Anzahl(Text);
+    const auto n = static_cast<std::size_t>(Zeichen_Im(Text));
     return n < Breite ? Text.append(Breite - n, '-') : Text;
 }
 
@@ -103,6 +97,32 @@ std::vector<std::string> Text_Fuss(const Druck_Kopf& Kopf, int Seite)
                  "Date: " + Kopf.Datum + "     Page: " + Nummer + "     Time: " + Kopf.Uhrzeit})};
 }
 
+// --- progress ---
+
+Druckfortgang::Druckfortgang()
+{
+    Abbruch = false;
+    Plattform.Status->Oeffnen();
+    Plattform.Status->Text(In_Sprache(
+        Menue("MNU_Hex").Haken ? Text_Paar{" Hexdaten werden gedruckt...", " Printing hex data..."}
+                               : Text_Paar{" Text wird gedruckt...", " Printing text..."}));
+}
+
+Druckfortgang::~Druckfortgang() { Plattform.Status->Schliessen(); }
+
+bool Druckfortgang::Weiter(std::size_t Teil, std::size_t Ganzes)
+{
+    const int Neu = static_cast<int>(Teil * 100 / std::max<std::size_t>(Ganzes, 1));
+    if (Neu > Prozent) {
+        Prozent = Neu;
+        Plattform.Status->ProgBar(Prozent);
+    }
+    Plattform.Ereignisse->Eine_Runde();
+    return !Abbruch;
+}
+
+// --- the image ---
+
 namespace {
 
 Druck_Kopf Kopf_Jetzt()
@@ -141,7 +161,7 @@ constexpr int Hex_Seite_Zeilen = 9 + Hex_Fuss_Zeile + 3; // header, rows, footer
 bool Hex_Seite_Passt()
 {
     return Plattform.Druck->Zeilen_Je_Seite() >= Hex_Seite_Zeilen &&
-           Plattform.Druck->Zeichen_Je_Zeile() >= Hex_Zeichen_Je_Zeile;
+           Plattform.Druck->Passt(std::string(Hex_Zeichen_Je_Zeile, 'W'));
 }
 
 // Courier New 10; smaller where the sheet doesn't hold the page otherwise.
@@ -158,34 +178,6 @@ void Hex_Schrift_Setzen()
     }
 }
 
-// The `status` dialog, and what it tells: a part of a whole is done. False: the user has given up.
-class Fortgang {
-public:
-    explicit Fortgang(const Text_Paar& Text)
-    {
-        Abbruch = false;
-        Plattform.Status->Oeffnen();
-        Plattform.Status->Text(In_Sprache(Text));
-    }
-    ~Fortgang() { Plattform.Status->Schliessen(); }
-    Fortgang(const Fortgang&)            = delete;
-    Fortgang& operator=(const Fortgang&) = delete;
-
-    bool Weiter(std::size_t Teil, std::size_t Ganzes)
-    {
-        const int Neu = static_cast<int>(Teil * 100 / std::max<std::size_t>(Ganzes, 1));
-        if (Neu > Prozent) {
-            Prozent = Neu;
-            Plattform.Status->ProgBar(Prozent);
-        }
-        Plattform.Ereignisse->Eine_Runde();
-        return !Abbruch;
-    }
-
-private:
-    int Prozent = 0;
-};
-
 void Hex_Zeilen_Drucken(int Von, int Bis)
 {
     for (int i = Von; i < Bis; ++i)
@@ -199,7 +191,7 @@ void Hex_Drucken()
     const int        Zeilen = (Letztes_Byte() + 16) / 16;
     const int        Seiten = std::max(1, (Zeilen + Hex_Zeilen_Je_Seite - 1) / Hex_Zeilen_Je_Seite);
     const Druck_Kopf Kopf   = Kopf_Jetzt();
-    Fortgang         Lauf({" Hexdaten werden gedruckt...", " Printing hex data..."});
+    Druckfortgang    Lauf;
     Druckauftrag.Ganz = false;
     for (int Seite = 1; Seite <= Seiten; ++Seite) {
         const int Von = (Seite - 1) * Hex_Zeilen_Je_Seite;
@@ -218,12 +210,25 @@ void Hex_Drucken()
 
 namespace {
 
-// What stands on the pages; of a path that is too long for the sheet its end.
+// The longest end that fits the sheet in its place of the footer, at least one character.
+std::string Pfad_Fuer_Blatt(const std::string& Pfad)
+{
+    std::int64_t Kurz = 1;
+    std::int64_t Lang = Zeichen_Im(Pfad) + 1; // too long
+    while (Lang > Kurz + 1) {
+        const std::int64_t n = (Kurz + Lang) / 2;
+        const bool         Passt =
+            Plattform.Druck->Passt(Leer(Pfad_Einzug) + std::string(Ende_Von(Pfad, n)));
+        (Passt ? Kurz : Lang) = n;
+    }
+    return std::string(Ende_Von(Pfad, Kurz));
+}
+
+// What stands on the pages.
 Druck_Kopf Textkopf_Jetzt()
 {
-    Druck_Kopf Kopf  = Kopf_Jetzt();
-    const int  Platz = std::max(Plattform.Druck->Zeichen_Je_Zeile() - Pfad_Einzug, 1);
-    Kopf.Pfad        = Ende_Von(Kopf.Pfad, static_cast<std::size_t>(Platz));
+    Druck_Kopf Kopf = Kopf_Jetzt();
+    Kopf.Pfad       = Pfad_Fuer_Blatt(Kopf.Pfad);
     return Kopf;
 }
 
@@ -234,7 +239,7 @@ public:
         : Text(std::move(Text_UTF8)), Farben(std::move(Alle_Farben))
     {
     }
-    bool Laufen(Fortgang& Lauf); // false: given up, or the printer has failed
+    bool Laufen(Druckfortgang& Lauf); // false: given up, or the printer has failed
 
 private:
     bool Platz_Schaffen();
@@ -297,7 +302,7 @@ void Textdruck::Zeile_Drucken(std::string_view Inhalt)
     Stelle += Laenge + 2;
 }
 
-bool Textdruck::Laufen(Fortgang& Lauf)
+bool Textdruck::Laufen(Druckfortgang& Lauf)
 {
     std::size_t Anfang = 0;
     while (Anfang <= Text.size()) {
@@ -336,7 +341,7 @@ Schrift_T Schrift_Des_Textes()
 void Text_Drucken()
 {
     const Edit_Ruhe Ruhe;
-    Fortgang        Lauf({" Text wird gedruckt...", " Printing text..."});
+    Druckfortgang   Lauf;
     Plattform.Druck->Schrift(Schrift_Des_Textes());
     Druckauftrag.Ganz = Textdruck_Vorbereiten().Laufen(Lauf);
 }

@@ -2,6 +2,7 @@
 // printer itself stands behind the wall.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -25,6 +26,21 @@ std::vector<std::string> Hex_Rahmen(const Druck_Kopf& Kopf, int Seite, int Einzu
 std::string Hex_Druckzeile(std::int32_t Adresse);
 // The two lines at the end of a page of text.
 std::vector<std::string> Text_Fuss(const Druck_Kopf& Kopf, int Seite);
+
+// The `status` dialog of a printout, open as long as it lives.
+class Druckfortgang {
+public:
+    Druckfortgang(); // sets: Abbruch
+    ~Druckfortgang();
+    Druckfortgang(const Druckfortgang&)            = delete;
+    Druckfortgang& operator=(const Druckfortgang&) = delete;
+
+    // Tells that a part of a whole is done, and lets the user act. False: the user has given up.
+    bool Weiter(std::size_t Teil, std::size_t Ganzes);
+
+private:
+    int Prozent = 0;
+};
 
 // Both stop between two pages, or two lines of text, when the user gives up, and when the printer
 // fails.

@@ -28,6 +28,7 @@ namespace {
 
 constexpr int Tabulator  = 8; // characters
 constexpr int PDF_Filter = 1;
+constexpr int Rundung    = 3; // device units by which the edges of two sheets may be off
 
 // Control characters have no picture on paper.
 bool Ist_Steuerzeichen(QChar c)
@@ -135,14 +136,17 @@ void Qt_Drucker::Einrichten()
 
 bool Qt_Drucker::PDF_Datei_Waehlen()
 {
+    Dateiwahl_T Wahl = PDF_Wahl();
     for (;;) {
-        Dateiwahl_T Wahl = PDF_Wahl();
         Plattform.Dialog->Datei_Waehlen(Wahl);
         if (Wahl.Name.empty())
             return false;
         PDF_Datei = Qt_Text(Wahl.Name);
         if (Ersetzen_Erlaubt(Wahl.Name))
             return true;
+        const QFileInfo Abgelehnt(PDF_Datei); // from there on
+        Wahl.Verzeichnis = Nach_Std(Abgelehnt.path());
+        Wahl.Name        = Nach_Std(Abgelehnt.fileName());
     }
 }
 
@@ -180,20 +184,20 @@ bool Qt_Drucker::Drucker_Einstellen(const QString& Name)
 
 bool Qt_Drucker::Beginnen(std::string_view Name)
 {
-    Hoehe       = 0;
-    Gescheitert = false;
-    Titel       = QFileInfo(Qt_Text(Name)).fileName();
+    Hoehe = 0;
+    Titel = QFileInfo(Qt_Text(Name)).fileName();
     Seiten.assign(1, {});
     if (!Drucker_Name.isEmpty() && !Drucker_Einstellen(Drucker_Name)) {
         Beginn_Fehler_Melden();
         return false;
     }
-    Blatt_Groesse = Geraet().pageLayout().paintRectPoints().size();
+    Blatt_Groesse = Geraet().pageLayout().paintRect(QPageLayout::Point).size();
     return Vorschau || Blatt_Oeffnen();
 }
 
 bool Qt_Drucker::Blatt_Oeffnen()
 {
+    Gescheitert = false;
     Geraet().setDocName(Titel);
     Blatt = &Geraet();
     PDF_Blatt.reset();
@@ -230,10 +234,10 @@ int Qt_Drucker::Zeilen_Je_Seite() const
     return std::max(1, static_cast<int>(Druckbereich().height() / Mass.lineSpacing()));
 }
 
-int Qt_Drucker::Zeichen_Je_Zeile() const
+bool Qt_Drucker::Passt(std::string_view Text) const
 {
     const QFontMetricsF Mass(Jetzige_Schrift, Druck_Geraet.get());
-    return std::max(1, static_cast<int>(Druckbereich().width() / Mass.horizontalAdvance(u'W')));
+    return Breite_Von(Druckbar(Qt_Text(Text)), Mass) <= Druckbereich().width();
 }
 
 // The place behind the line.
@@ -289,7 +293,9 @@ bool Qt_Drucker::Neue_Seite()
 
 bool Qt_Drucker::Beenden(bool Ganz)
 {
-    const bool Gut = Maler ? Blatt_Schliessen(Ganz) : !Ganz || Vorschau_Zeigen();
+    const bool Gut = Maler ? Blatt_Schliessen(Ganz)
+                           : !Ganz || (Vorschau_Zeigen() && Ziel_Bestimmen() && Blatt_Oeffnen() &&
+                                       Seiten_Drucken());
     Seiten.clear();
     return Gut;
 }
@@ -326,48 +332,64 @@ bool Qt_Drucker::PDF_Schreiben()
 
 // --- the preview ---
 
-// Closed without printing it is no failure.
+// False: closed without printing.
 bool Qt_Drucker::Vorschau_Zeigen()
 {
     Druck_Vorschau Dialog(
         Geraet(), [this](QPrinter& Papier) { Vorschau_Malen(Papier); }, Fenster);
-    if (Dialog.exec() != QDialog::Accepted || !Ziel_Bestimmen())
-        return true;
-    if (!Blatt_Oeffnen())
-        return false;
-    Gescheitert = !Seiten_Malen(*Maler, *Blatt);
-    return Blatt_Schliessen(true);
+    return Dialog.exec() == QDialog::Accepted;
 }
 
 void Qt_Drucker::Vorschau_Malen(QPrinter& Papier)
 {
     QPainter Pinsel(&Papier);
-    Seiten_Malen(Pinsel, Papier);
+    Seiten_Malen(Pinsel, Papier, [](std::size_t) { return true; });
+}
+
+// From the preview to the sheet that is open.
+bool Qt_Drucker::Seiten_Drucken()
+{
+    {
+        Druckfortgang Lauf;
+        Druckauftrag.Ganz = Seiten_Malen(
+            *Maler, *Blatt, [&](std::size_t i) { return Lauf.Weiter(i, Seiten.size()); });
+    }
+    Druckauftrag.Zu_Breit = Zu_Breit;
+    return Blatt_Schliessen(Druckauftrag.Ganz);
 }
 
 // The pages were cut for the sheet of the setup; on a smaller one, chosen in the preview, they
-// shrink. False when the printer fails.
-bool Qt_Drucker::Seiten_Malen(QPainter& Pinsel, QPagedPaintDevice& Papier) const
+// shrink. False when the printer fails or the user has given up.
+bool Qt_Drucker::Seiten_Malen(QPainter& Pinsel, QPagedPaintDevice& Papier, const Weiter_T& Weiter)
 {
-    const QSizeF Platz  = Papier.pageLayout().paintRectPoints().size();
-    const double Faktor = std::min(
+    const QPageLayout Blattlage = Papier.pageLayout();
+    const QSizeF      Platz     = Blattlage.paintRect(QPageLayout::Point).size();
+    const double      Faktor    = std::min(
         {1.0, Platz.width() / Blatt_Groesse.width(), Platz.height() / Blatt_Groesse.height()});
+    const int Breite = Blattlage.paintRectPixels(Pinsel.device()->logicalDpiX()).width();
     Pinsel.scale(Faktor, Faktor);
-    for (const Seite_T& s : Seiten) {
-        if (&s != &Seiten.front() && !Papier.newPage())
+    Zu_Breit = 0;
+    for (std::size_t i = 0; i < Seiten.size(); ++i) {
+        if (!Weiter(i))
             return false;
-        Seite_Malen(Pinsel, s);
+        Gescheitert = i > 0 && !Papier.newPage();
+        if (Gescheitert)
+            return false;
+        Zu_Breit += Seite_Malen(Pinsel, Seiten[i], Breite / Faktor + Rundung);
     }
     return true;
 }
 
-void Qt_Drucker::Seite_Malen(QPainter& Pinsel, const Seite_T& s)
+// The number of lines that ran over the right margin.
+int Qt_Drucker::Seite_Malen(QPainter& Pinsel, const Seite_T& s, double Rand)
 {
-    double y = 0;
+    int    Ueber = 0;
+    double y     = 0;
     for (const Zeile_T& z : s) {
-        Zeile_Malen(Pinsel, z, y);
+        Ueber += Zeile_Malen(Pinsel, z, y) > Rand ? 1 : 0;
         y += QFontMetricsF(z.Schrift, Pinsel.device()).lineSpacing();
     }
+    return Ueber;
 }
 
 std::string Qt_Drucker::Datum() const

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "core/platform.h"
+#include "files/Drucken.h"
 
 #include <QFont>
 #include <QRectF>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -27,14 +29,16 @@ public:
     void      In_PDF(const QString& Name); // the next document goes to that file
     QPrinter& Geraet();                    // holds the sheet and its margins for every target
 
-    void        Einrichten() override;
-    bool        Waehlen(Druckwahl_T& Wahl) override;
-    bool        Beginnen(std::string_view Name) override;
-    void        Schrift(const Schrift_T& Neue) override;
-    int         Zeilen_Je_Seite() const override;
-    int         Zeichen_Je_Zeile() const override;
-    bool        Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben) override;
-    bool        Neue_Seite() override;
+    void Einrichten() override;
+    bool Waehlen(Druckwahl_T& Wahl) override;
+    bool Beginnen(std::string_view Name) override;
+    void Schrift(const Schrift_T& Neue) override;
+    int  Zeilen_Je_Seite() const override;
+    bool Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben) override;
+    bool Passt(std::string_view Text) const override;
+    bool Neue_Seite() override;
+    // False too when nothing was printed since the preview was closed. Printing from it renews
+    // Druckauftrag.Ganz and .Zu_Breit, for it may be given up and go to another sheet.
     bool        Beenden(bool Ganz) override;
     std::string Datum() const override;
     std::string Uhrzeit() const override;
@@ -62,12 +66,15 @@ private:
     bool Blatt_Schliessen(bool Ganz);
     bool PDF_Schreiben();
 
+    using Weiter_T = std::function<bool(std::size_t)>; // asked before each page
+
     bool Vorschau_Zeigen();
     void Vorschau_Malen(QPrinter& Papier);
-    bool Seiten_Malen(QPainter& Pinsel, QPagedPaintDevice& Papier) const;
+    bool Seiten_Drucken();
+    bool Seiten_Malen(QPainter& Pinsel, QPagedPaintDevice& Papier, const Weiter_T& Weiter);
 
     static double Zeile_Malen(QPainter& Pinsel, const Zeile_T& z, double y);
-    static void   Seite_Malen(QPainter& Pinsel, const Seite_T& s);
+    static int    Seite_Malen(QPainter& Pinsel, const Seite_T& s, double Rand);
 
     QWidget*                  Fenster = nullptr;
     std::unique_ptr<QPrinter> Druck_Geraet{};
@@ -85,6 +92,7 @@ private:
 
     std::vector<Seite_T> Seiten{};        // of the preview
     QSizeF               Blatt_Groesse{}; // for which these were cut, between the margins; points
+    int                  Zu_Breit = 0;    // their lines that ran over the sheet last painted on
     QFont                Jetzige_Schrift{};
     double               Hoehe = 0; // of the next line, device units from the top
 };

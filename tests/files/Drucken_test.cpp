@@ -9,6 +9,9 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <utility>
+
 namespace varnholt {
 namespace {
 
@@ -411,6 +414,39 @@ TEST_F(Drucken_Welt, PathThatIsTooLongForTheSheetKeepsItsEnd)
     EXPECT_EQ(Zeile.substr(0, 13), "            x");
     EXPECT_TRUE(Zeile.ends_with("x/über.asm"));
     EXPECT_EQ(Zeile.size(), 60u + 1u); // the umlaut has two bytes
+}
+
+// Its i are narrow, its W wide.
+class Messender_Drucker : public test::Skript_Drucker {
+public:
+    bool Passt(std::string_view Text) const override
+    {
+        return std::ssize(Text) + 4 * std::count(Text.begin(), Text.end(), 'W') <= Je_Zeile;
+    }
+};
+
+TEST_F(Drucken_Welt, PathIsMeasuredWhereThePrinterCan)
+{
+    Messender_Drucker Messer;
+    Plattform.Druck = &Messer;
+    In_Modus(Modus_MC);
+    Zeilen_Setzen(1);
+    Messer.Je_Zeile = 60;
+    for (const auto& [Ganz, Gedruckt] : {std::pair{std::string(48, 'i'), std::string(48, 'i')},
+                                         {std::string(49, 'i'), std::string(48, 'i')},
+                                         {std::string(9, 'W'), std::string(9, 'W')},
+                                         {std::string(10, 'W'), std::string(9, 'W')},
+                                         {std::string(400, 'W') + "/i", "WWWWWWWWW/i"},
+                                         {"", ""}}) {
+        Datei_Name = Ganz;
+        MNU_PrintDialog_Click();
+        EXPECT_EQ(Messer.Seiten[0][64], std::string(12, ' ') + Gedruckt);
+    }
+    Messer.Je_Zeile = 1; // not even the indent fits
+    Datei_Name      = "ab";
+    MNU_PrintDialog_Click();
+    EXPECT_EQ(Messer.Seiten[0][64], std::string(12, ' ') + "b");
+    Plattform.Druck = &Druck;
 }
 
 TEST_F(Drucken_Welt, ProgressIsShownInTheLanguage)

@@ -3,6 +3,7 @@
 
 #include "core/platform.h"
 #include "core/text_memory.h"
+#include "core/utf8.h"
 
 #include <gtest/gtest.h>
 
@@ -167,7 +168,7 @@ public:
     }
     void Schrift(const Schrift_T& Neue) override { Schriften_Gesetzt.push_back(Neue); }
     int  Zeilen_Je_Seite() const override { return Je_Seite; }
-    int  Zeichen_Je_Zeile() const override { return Je_Zeile; }
+    bool Passt(std::string_view Text) const override { return Zeichen_Im(Text) <= Je_Zeile; }
     bool Zeile(std::string_view Text, std::span<const Farbstelle_T> Farben) override
     {
         Seiten.back().emplace_back(Text);

@@ -1,6 +1,7 @@
 // Printing through the window: the print dialog with real clicks, PDF files read back as text.
 #include "Haupt_Welt.h"
 #include "core/menu.h"
+#include "core/settings.h"
 #include "files/Drucken.h"
 #include "support/scripted_platform.h"
 #include "ui/Druck_Dialog.h"
@@ -88,6 +89,19 @@ protected:
             auto* b = Dialog->findChild<QPushButton*>(QLatin1String(Knopf));
             // What opens now is answered by another turn of the same clock.
             QTimer::singleShot(0, b, [b] { QTest::mouseClick(b, Qt::LeftButton); });
+        });
+    }
+    // The setup of the sheet: a size by its name, and Enter.
+    void Blatt_Beantworten(const QString& Name)
+    {
+        Antworten.Naechstes([Name](QWidget* w) {
+            auto* Blatt = qobject_cast<QPageSetupDialog*>(w);
+            ASSERT_NE(Blatt, nullptr);
+            for (auto* Liste : Blatt->findChildren<QComboBox*>())
+                for (int i = 0; i < Liste->count(); ++i)
+                    if (Liste->itemText(i) == Name)
+                        Liste->setCurrentIndex(i);
+            QTest::keyClick(Blatt, Qt::Key_Return);
         });
     }
     // The status dialog's button, when the bar has come that far.
@@ -343,6 +357,28 @@ TEST_F(Drucken_Fenster, an_existing_file_is_replaced_only_when_the_user_agrees)
         EXPECT_TRUE(PDF_Text().contains(QStringLiteral("Zeile_3:")));
         EXPECT_TRUE(Antworten.Fertig());
     }
+}
+
+TEST_F(Drucken_Fenster, a_name_that_isnt_to_be_replaced_stands_there_again_with_its_folder)
+{
+    Starten("E");
+    Datei_Name = Heim + "blinker.asm";
+    std::filesystem::create_directory(Heim + "papiere");
+    const QString Alt = Ordner.filePath(QStringLiteral("papiere/blatt.pdf"));
+    Datei_Anlegen(Nach_Std(Alt), "an older printout");
+    Dialog_Beantworten("Drucken");
+    Datei_Beantworten(Alt);
+    Antworten.Taste(QMessageBox::No);
+    Antworten.Naechstes([this](QWidget* w) {
+        EXPECT_EQ(w->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
+                  QStringLiteral("blatt.pdf"));
+        EXPECT_EQ(qobject_cast<QFileDialog*>(w)->directory().canonicalPath(),
+                  QDir(Ordner.filePath(QStringLiteral("papiere"))).canonicalPath());
+        QTest::keyClick(w, Qt::Key_Escape);
+    });
+    Drucken_Waehlen();
+    EXPECT_TRUE(Antworten.Fertig());
+    EXPECT_EQ(Datei_Inhalt(Nach_Std(Alt)), "an older printout");
 }
 
 TEST_F(Drucken_Fenster, the_document_s_name_is_proposed)
@@ -604,6 +640,24 @@ TEST_F(Drucken_Fenster, a_line_of_text_that_is_too_wide_for_the_sheet_is_told)
         QStringLiteral("Printed. Lines too wide for the paper, whose ends may be missing: 1."));
 }
 
+TEST_F(Drucken_Fenster, a_path_is_cut_only_where_it_doesnt_fit_in_the_font_of_the_editor)
+{
+    Starten("E");
+    Schriften[static_cast<std::size_t>(Schrift_Edit)] = {"DejaVu Sans", false, false, 10};
+    Zeilen_Setzen(1);
+    Datei_Name = "/" + std::string(80, 'i') + ".asm";
+    In_PDF_Drucken();
+    EXPECT_TRUE(PDF_Text().contains(Qt_Text(Datei_Name))) << Nach_Std(PDF_Text());
+    EXPECT_EQ(Statuszeile(), QString());
+    QFile::remove(PDF());
+    Datei_Name = "/" + std::string(400, 'W') + ".asm";
+    In_PDF_Drucken();
+    const QString t = PDF_Text();
+    EXPECT_TRUE(t.contains(QStringLiteral("WWWWWWWWWWWWWWWWWWWWWWWWWWWWWW.asm"))) << Nach_Std(t);
+    EXPECT_FALSE(t.contains(QStringLiteral("/W"))) << Nach_Std(t);
+    EXPECT_EQ(Statuszeile(), QString());
+}
+
 TEST_F(Drucken_Fenster, characters_of_two_places_dont_shift_the_colours_behind_them)
 {
     Starten("E");
@@ -664,15 +718,107 @@ TEST_F(Drucken_Fenster, what_the_preview_shows_can_be_printed_from_it)
     EXPECT_EQ(PDF_Text().remove(Uhr), QString(t).remove(Uhr));
 }
 
+TEST_F(Drucken_Fenster, a_preview_that_is_closed_tells_nothing_of_a_printout)
+{
+    Starten("E");
+    Edit()->Text_Setzen_UTF8(std::string(150, 'x'));
+    Dialog_Beantworten("Vorschau");
+    Vorschau_Beantworten("Schliessen");
+    Drucken_Waehlen();
+    EXPECT_TRUE(Antworten.Fertig());
+    EXPECT_EQ(Statuszeile(), QString());
+}
+
 TEST_F(Drucken_Fenster, a_file_name_cancelled_behind_the_preview_prints_nothing)
 {
     Starten("E");
+    Edit()->Text_Setzen_UTF8(std::string(150, 'x'));
     Dialog_Beantworten("Vorschau");
     Vorschau_Beantworten("Drucken");
     Antworten.Naechstes([](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); });
     Drucken_Waehlen();
     EXPECT_TRUE(Antworten.Fertig());
     EXPECT_FALSE(QFile::exists(PDF()));
+    EXPECT_EQ(Statuszeile(), QString());
+}
+
+TEST_F(Drucken_Fenster, a_click_on_abbrechen_ends_the_printing_from_the_preview)
+{
+    for (const int m : {Modus_MC, Modus_Hex}) {
+        Starten("E", m);
+        Zeilen_Setzen(3000);
+        std::fill_n(Hex_Daten.begin(), 50000, std::uint8_t{0x41});
+        Status_Text.clear();
+        Dialog_Beantworten("Vorschau");
+        Vorschau_Beantworten("Drucken", [this](Druck_Vorschau*) { Abbrechen_Bei(20); });
+        Datei_Beantworten(PDF());
+        Drucken_Waehlen();
+        EXPECT_TRUE(Antworten.Fertig());
+        EXPECT_EQ(Status_Text,
+                  m == Modus_MC ? QStringLiteral(" Printing text...")
+                                : QStringLiteral(" Printing hex data..."));
+        EXPECT_EQ(Statuszeile(), QStringLiteral("Printing was cancelled."));
+        EXPECT_FALSE(QFile::exists(PDF()));
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    }
+}
+
+TEST_F(Drucken_Fenster, a_printer_keeps_the_pages_from_the_preview_when_the_user_gives_up)
+{
+    Starten("E", Modus_Hex);
+    std::fill_n(Hex_Daten.begin(), 80000, std::uint8_t{0x41}); // 100 pages
+    Drucker_Am_Pruefstand Druck(PDF());
+    Drucker* const        Vorher = std::exchange(Plattform.Druck, &Druck);
+    Ziel                         = QStringLiteral("Zeilendrucker");
+    Dialog_Beantworten("Vorschau");
+    Vorschau_Beantworten("Drucken", [this](Druck_Vorschau*) { Abbrechen_Bei(20); });
+    Drucken_Waehlen();
+    EXPECT_TRUE(Antworten.Fertig());
+    const int n = Seitenzahl(PDF());
+    EXPECT_GE(n, 18);
+    EXPECT_LE(n, 30);
+    EXPECT_EQ(Statuszeile(), QStringLiteral("Printing was cancelled."));
+    Plattform.Druck = Vorher;
+}
+
+TEST_F(Drucken_Fenster, lines_too_wide_are_counted_for_the_sheet_chosen_in_the_preview)
+{
+    for (const bool Eine_Bleibt : {false, true}) {
+        Starten("E");
+        Schriften[static_cast<std::size_t>(Schrift_Edit)] = {"DejaVu Sans Mono", false, false, 10};
+        Papier().Geraet().setPageSize(QPageSize(QPageSize::A5));
+        Edit()->Text_Setzen_UTF8(std::string(75, 'x') + "\r\nNOP\r\n" +
+                                 std::string(Eine_Bleibt ? 150 : 74, 'y') + "\r\n");
+        Dialog_Beantworten("Vorschau");
+        Vorschau_Beantworten("Papier");
+        Blatt_Beantworten(QStringLiteral("A4"));
+        Vorschau_Beantworten("Drucken");
+        Datei_Beantworten(PDF());
+        Drucken_Waehlen();
+        EXPECT_TRUE(Antworten.Fertig());
+        EXPECT_TRUE(PDF_Text().contains(QString(75, u'x')));
+        EXPECT_EQ(Statuszeile(),
+                  Eine_Bleibt ? QStringLiteral("Printed. Lines too wide for the paper, whose ends "
+                                               "may be missing: 1.")
+                              : QString());
+        QFile::remove(PDF());
+    }
+}
+
+TEST_F(Drucken_Fenster, lines_too_wide_stay_so_where_the_pages_shrink)
+{
+    Starten("E");
+    Schriften[static_cast<std::size_t>(Schrift_Edit)] = {"DejaVu Sans Mono", false, false, 10};
+    Edit()->Text_Setzen_UTF8(std::string(75, 'x') + "\r\n" + std::string(150, 'y') + "\r\n");
+    Dialog_Beantworten("Vorschau");
+    Vorschau_Beantworten("Papier");
+    Blatt_Beantworten(QStringLiteral("A5"));
+    Vorschau_Beantworten("Drucken");
+    Datei_Beantworten(PDF());
+    Drucken_Waehlen();
+    EXPECT_EQ(
+        Statuszeile(),
+        QStringLiteral("Printed. Lines too wide for the paper, whose ends may be missing: 1."));
 }
 
 TEST_F(Drucken_Fenster, a_printer_that_fails_behind_the_preview_is_told)
@@ -701,15 +847,7 @@ TEST_F(Drucken_Fenster, pages_shrink_to_a_smaller_sheet_chosen_in_the_preview)
     std::fill_n(Hex_Daten.begin(), 60 * 16, std::uint8_t{'W'});
     Dialog_Beantworten("Vorschau");
     Vorschau_Beantworten("Papier");
-    Antworten.Naechstes([](QWidget* w) {
-        auto* Blatt = qobject_cast<QPageSetupDialog*>(w);
-        ASSERT_NE(Blatt, nullptr);
-        for (auto* Liste : Blatt->findChildren<QComboBox*>())
-            for (int i = 0; i < Liste->count(); ++i)
-                if (Liste->itemText(i) == QStringLiteral("A5"))
-                    Liste->setCurrentIndex(i);
-        QTest::keyClick(Blatt, Qt::Key_Return);
-    });
+    Blatt_Beantworten(QStringLiteral("A5"));
     Vorschau_Beantworten("Drucken");
     Datei_Beantworten(PDF());
     Drucken_Waehlen();
