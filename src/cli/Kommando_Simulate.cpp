@@ -8,12 +8,14 @@
 #include "core/settings.h"
 #include "core/shared_state.h"
 #include "files/Dateizugriff.h"
+#include "language/Assembler_Zustand.h"
 #include "simulator/Debug.h"
 #include "simulator/Sitzung.h"
 
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -70,7 +72,7 @@ bool Selbe_Datei(const std::string& a, const std::string& b)
     return Ort == Ort_Von(b);
 }
 
-// An output is written over none of the files that the command works with.
+// An output is written over none of the files that the command names.
 int Ausgabe_Pruefen(const Simulate_Optionen& o, const char* Option, const std::string& Name)
 {
     const auto Gleich = [&](const std::string& Andere) {
@@ -101,6 +103,24 @@ int Ausgaben_Pruefen(const Simulate_Optionen& o)
         return Falsche_Zeile({"--trace und --xram-out schreiben in dieselbe Datei",
                               "--trace and --xram-out write to the same file"});
     return Status_Fertig;
+}
+
+// Nor over one that the assembler has read for an INCLUDE.
+int Include_Pruefen(const char* Option, const std::string& Name)
+{
+    if (Name.empty() || Name == "-" ||
+        std::none_of(Include_Liste.begin(), Include_Liste.end(), [&](const Include_Eintrag& e) {
+            return Selbe_Datei(Name, e.Pfad);
+        }))
+        return Status_Fertig;
+    return Falsche_Zeile({fmt::format("{} {}: das ist eine Include-Datei", Option, Name),
+                          fmt::format("{} {}: that is an included file", Option, Name)});
+}
+
+int Includes_Pruefen(const Simulate_Optionen& o)
+{
+    const int Status = Include_Pruefen("--trace", o.Spur);
+    return Status == Status_Fertig ? Include_Pruefen("--xram-out", o.XRAM_Datei) : Status;
 }
 
 // The names of the registers, then the image.
@@ -263,6 +283,8 @@ int Simulate(const Simulate_Optionen& o)
     if (const int Status = Ausgaben_Pruefen(o); Status != Status_Fertig)
         return Status;
     if (const int Status = Programm_Bereitstellen(o); Status != Status_Fertig)
+        return Status;
+    if (const int Status = Includes_Pruefen(o); Status != Status_Fertig)
         return Status;
     return Mit_Spur_Laufen(o, *Hoechstens);
 }

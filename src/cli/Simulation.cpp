@@ -20,6 +20,7 @@ namespace {
 
 constexpr std::int64_t Stueck            = 20'000'000; // instructions between two looks at progress
 constexpr std::int64_t Aufrufe           = 1 << 18;    // the same, in calls of Simulieren
+constexpr std::int64_t Je_Meldung        = 1 << 24;    // the same, within the calls
 constexpr std::int64_t Zeile_Hoechstens  = 1'000'000'000; // instructions of one source line
 constexpr std::int64_t Zeilen_Hoechstens = 1'000'000'000; // of all of them together
 constexpr std::size_t  Puffer_Groesse    = 1U << 16;
@@ -72,10 +73,26 @@ private:
     decltype(Maschine.Sim_XRAM) XRAM{};
 };
 
+std::int64_t Prozent(std::int64_t Fertig, std::int64_t Gesamt)
+{
+    return Fertig * 100 / std::max<std::int64_t>(Gesamt, 1);
+}
+
+void Fortschritt(std::int64_t Anteil)
+{
+    const std::string Text = std::to_string(Anteil) + "%";
+    Plattform.Status->Text(
+        In_Sprache({" Simulation läuft... " + Text, " Simulation is running... " + Text}));
+}
+
 // Counts the instructions of a run and writes them down.
 class Zaehlwerk final : public Befehls_Zeuge {
 public:
-    explicit Zaehlwerk(std::ostream* Ziel) : Strom(Ziel) { Sitzung.Zeuge = this; }
+    // Hoechstens: calls of Simulieren.
+    Zaehlwerk(std::ostream* Ziel, std::int64_t Hoechstens) : Strom(Ziel), Alle_Aufrufe(Hoechstens)
+    {
+        Sitzung.Zeuge = this;
+    }
     ~Zaehlwerk() override
     {
         Sitzung.Zeuge = nullptr;
@@ -86,7 +103,8 @@ public:
 
     void Ausgefuehrt(std::int32_t Adresse) override
     {
-        ++Befehle;
+        if (++Befehle % Je_Meldung == 0)
+            Fortschritt_Zeigen();
         if (++In_Der_Zeile >= Zeile_Hoechstens || Kreis.Geschlossen())
             Debugger_Aktiv = false; // the call returns
         if (Strom != nullptr)
@@ -96,11 +114,21 @@ public:
     {
         In_Der_Zeile = 0;
         Kreis.Beginnen();
+        if (++Aufruf % Aufrufe == 0)
+            Fortschritt_Zeigen();
     }
+    bool Am_Ende() const { return Befehle >= Befehle_Hoechstens(); }
 
     std::int64_t Befehle = 0;
 
 private:
+    std::int64_t Befehle_Hoechstens() const { return std::max(Alle_Aufrufe, Zeilen_Hoechstens); }
+    // Calls or instructions, whichever come to their limit first.
+    void Fortschritt_Zeigen() const
+    {
+        Fortschritt(
+            std::max(Prozent(Aufruf, Alle_Aufrufe), Prozent(Befehle, Befehle_Hoechstens())));
+    }
     void Aufschreiben(std::int32_t Adresse)
     {
         fmt::format_to(std::back_inserter(Puffer),
@@ -124,30 +152,21 @@ private:
     }
 
     std::ostream*      Strom;
+    std::int64_t       Alle_Aufrufe;
+    std::int64_t       Aufruf = 0;
     fmt::memory_buffer Puffer{};
     std::int64_t       In_Der_Zeile = 0;
     Kreis_Suche        Kreis{};
 };
 
-void Fortschritt(std::int64_t Fertig, std::int64_t Gesamt)
-{
-    const std::string Prozent = std::to_string(Fertig * 100 / std::max<std::int64_t>(Gesamt, 1));
-    Plattform.Status->Text(In_Sprache(
-        {" Simulation läuft... " + Prozent + "%", " Simulation is running... " + Prozent + "%"}));
-}
-
 // Instruction by instruction or line by line, each seen by the witness.
 std::int64_t Aufrufen(std::int64_t Hoechstens, std::ostream* Spur)
 {
-    Zaehlwerk          Zaehler(Spur);
-    const std::int64_t Hoechste_Zahl = std::max(Hoechstens, Zeilen_Hoechstens);
-    for (std::int64_t i = 0;
-         i < Hoechstens && Zaehler.Befehle < Hoechste_Zahl && Debugger_Aktiv && !Debug_Stop;
+    Zaehlwerk Zaehler(Spur, Hoechstens);
+    for (std::int64_t i = 0; i < Hoechstens && !Zaehler.Am_Ende() && Debugger_Aktiv && !Debug_Stop;
          ++i) {
         Zaehler.Zeile_Beginnen();
         Simulieren();
-        if (i % Aufrufe == Aufrufe - 1)
-            Fortschritt(i, Hoechstens);
     }
     return Zaehler.Befehle;
 }
@@ -161,7 +180,7 @@ std::int64_t Durchlaufen(std::int64_t Hoechstens)
         Gesamt.Befehle += e.Befehle;
         Gesamt.Grund = e.Grund;
         if (Gesamt.Befehle < Hoechstens)
-            Fortschritt(Gesamt.Befehle, Hoechstens);
+            Fortschritt(Prozent(Gesamt.Befehle, Hoechstens));
     }
     if (Gesamt.Grund != Lauf_Grund::Grenze)
         Simulieren(); // tells why it doesn't go on
@@ -186,7 +205,7 @@ Simulation_Ergebnis Simulation_Laufen(std::int64_t Hoechstens, bool Zeilenweise,
     Debug_Vollgas  = !Zeilenweise;
     Debug_Stop     = false;
     if (Byte_An(Sim_PC) == Stoppunkt_Opcode)
-        Sim_PC = (Sim_PC + 1) % Code_Groesse;
+        Sim_PC = Im_Code(Sim_PC + 1);
     Simulation_Ergebnis e;
     e.Befehle =
         Zeilenweise || Spur != nullptr ? Aufrufen(Hoechstens, Spur) : Durchlaufen(Hoechstens);

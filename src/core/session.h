@@ -10,9 +10,4 @@ void Sitzung_Beenden();
 // Menu entries and buttons that only a session has.   sets: menu, tool bar
 void Sitzung_Schalten(bool Aktiv);
 
-// Shows the windows of a session that are ticked for the mode. When one of them opens, a window
-// that fills the screen makes room; else everything stays where the user has put it.
-// sets: Fenster_Tabelle, menu, windows
-void Sitzungsfenster_Zeigen();
-
 } // namespace varnholt

@@ -219,11 +219,17 @@ void Undo_Ring_Neu()
     Redo_Schalten(false);
 }
 
+bool Redo_Moeglich()
+{
+    // A ring of one place has nothing ahead: what lies in it is from an earlier document.
+    return Hoechster_Platz() > 0 && Undo_Index != Undo_Oben && Naechster(Undo_Index) != Undo_Oben;
+}
+
 void Undo_Knoepfe_Stellen()
 {
     const bool Ring = Hoechster_Platz() != Kein_Undo;
     Undo_Schalten(Ring && Voriger(Undo_Index) != Undo_Ende);
-    Redo_Schalten(Ring && Undo_Index != Undo_Oben && Naechster(Undo_Index) != Undo_Oben);
+    Redo_Schalten(Redo_Moeglich());
 }
 
 void Undo_Knoepfe_Sperren()

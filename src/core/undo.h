@@ -40,6 +40,8 @@ void Undo_Zuruecksetzen();
 // The same for the document in work, when the number of steps changes or a change of the mode
 // begins: a changed line stays one.
 void Undo_Ring_Neu();
+// Steps lie ahead of the position in the ring, also while the text is locked.
+[[nodiscard]] bool Redo_Moeglich();
 // Undo and Redo in menu and tool bar: by the ring's position, or all off while the text is locked.
 void Undo_Knoepfe_Stellen();
 void Undo_Knoepfe_Sperren();

@@ -21,13 +21,14 @@ inline constexpr int Fenster_SFR     = 8;
 inline constexpr int Fenster_EXRAM   = 9;
 inline constexpr int Fenster_CONTROL = 10;
 inline constexpr int Fenster_Anzahl  = 10;
+inline constexpr int Fenster_Hilfe   = 11; // the form `Hilfe`: its place alone, in column 0
 
 // Fields of a window's line.
 enum class Feld { Sichtbar, Oben, Links, Hoehe, Breite };
 inline constexpr int Felder_Gespeichert = 5;
 
 // By mode column (0 Hex-Editor, 1 MC-Editor), window 1 to 12 (0 unused) and field 0 to 6. Of these
-// only windows 1 to 10 and fields 0 to 4 are used. Field 0 is -1 or 0.
+// only windows 1 to 11 and fields 0 to 4 are used. Field 0 is -1 or 0.
 inline struct Fenster_T {
     std::array<std::array<std::array<std::int16_t, 7>, 13>, 2> Fenster_Tabelle{};
 } Fensterlage;
@@ -66,6 +67,11 @@ void Fenster_Geschlossen(int Nummer);
 // The line of a side window in the current mode: toggled by its menu entry.
 // reads: Modus   sets: Fenster_Tabelle, menu
 void Fenster_Umschalten(int Nummer);
+
+// Shows the windows of a session that are ticked for the mode. When one of them opens, a window
+// that fills the screen makes room; else everything stays where the user has put it.
+// sets: Fenster_Tabelle, menu, windows
+void Sitzungsfenster_Zeigen();
 
 // What each mode changes in menu and tool bar (ticks, visible and enabled entries, tooltip of
 // button 21). reads: Modus   sets: menu, tool bar

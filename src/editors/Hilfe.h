@@ -17,9 +17,6 @@ inline struct Hilfe_Form_T {
     Reich_Text_T Text{};
 } Hilfe_Form;
 
-// Its line in the window table, behind those of the child windows; column 0 in both modes.
-inline constexpr int Fenster_Hilfe = 11;
-
 inline void Hilfe_Zuruecksetzen() { Hilfe_Form = {}; }
 
 // The load of the form, at each showing. Layout_Text is the German text that its layout holds, as

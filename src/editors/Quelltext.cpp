@@ -31,10 +31,12 @@ bool Ist_Schreibtaste(const Taste_T& Taste)
 
 // The very first key of a document secures the state before it. While there is something to redo,
 // keys that only move or command leave the ring alone: the Ctrl of the next Ctrl+Y would otherwise
-// take a snapshot, and with it the steps to be redone.
+// take a snapshot, and with it the steps to be redone. In a session, whose text is locked and whose
+// commands are off, no key changes anything.
 void Erste_Taste_Sichern(const Taste_T& Taste)
 {
-    if (Menue("MNU_Redo").Aktiv && !Ist_Schreibtaste(Taste))
+    const bool Aendert = Ist_Schreibtaste(Taste) && !Debugger_Aktiv;
+    if (Redo_Moeglich() && !Aendert)
         return;
     Undo_Taste = true;
     if (Undo_Begonnen)

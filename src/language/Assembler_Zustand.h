@@ -50,10 +50,11 @@ struct Offenes_Ziel {
     std::int32_t Zusatz = 0; // signed addend of MOV DPTR,#name+n
 };
 
-// An included file's rows.
+// An included file's rows, and where it was found.
 struct Include_Eintrag {
-    int Erste_Zeile = 0;
-    int Zeilen      = 0;
+    int         Erste_Zeile = 0;
+    int         Zeilen      = 0;
+    std::string Pfad{};
 };
 
 // One row of the list file.

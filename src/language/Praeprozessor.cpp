@@ -115,17 +115,20 @@ std::string Rumpf_Einsetzen(std::string&       Davor,
     return Neu.append(Text, Ab);
 }
 
-// A file's bytes and the kind of its rows.
+// A file's bytes, the kind of its rows, and where it was found.
 struct Fund {
     std::optional<std::string> Bytes{};
     std::int8_t                Herkunft = Herkunft_Haupttext;
+    fs::path                   Pfad{};
 };
 
 // A file that can't be read is a file that isn't there.
-std::optional<std::string> Lesen(const fs::path& Ordner, std::string_view Name)
+Fund Lesen(const fs::path& Ordner, std::string_view Name, std::int8_t Herkunft)
 {
     const std::optional<fs::path> Pfad = Datei_Suchen(Ordner, Name);
-    return Pfad ? Datei_Lesen(*Pfad, Include_Hoechstens) : std::nullopt;
+    if (!Pfad)
+        return {};
+    return {Datei_Lesen(*Pfad, Include_Hoechstens), Herkunft, *Pfad};
 }
 
 // The folder of the source, then the two folders of the program. A path of the platform that begins
@@ -135,14 +138,14 @@ Fund Datei_Finden(std::string_view Name)
     const std::string UTF8 = Nach_UTF8(Name);
     const fs::path    Pfad = Pfad_Aus_Text(UTF8);
     if ((Name.size() > 2 && Name.substr(1, 2) == ":\\") || Pfad.is_absolute())
-        return {Lesen(Pfad.parent_path(), Pfad.filename().string()), Herkunft_Include};
+        return Lesen(Pfad.parent_path(), Pfad.filename().string(), Herkunft_Include);
     if (!Quell_Pfad.empty())
-        if (auto Bytes = Lesen(fs::path(Quell_Pfad).parent_path(), UTF8))
-            return {std::move(Bytes), Herkunft_Include};
-    if (auto Bytes = Lesen(fs::path(Programm_Pfad) / "include", UTF8))
-        return {std::move(Bytes), Herkunft_Include};
-    if (auto Bytes = Lesen(fs::path(Programm_Pfad) / "mc", UTF8))
-        return {std::move(Bytes), Herkunft_Prozessorfile};
+        if (Fund f = Lesen(fs::path(Quell_Pfad).parent_path(), UTF8, Herkunft_Include); f.Bytes)
+            return f;
+    if (Fund f = Lesen(fs::path(Programm_Pfad) / "include", UTF8, Herkunft_Include); f.Bytes)
+        return f;
+    if (Fund f = Lesen(fs::path(Programm_Pfad) / "mc", UTF8, Herkunft_Prozessorfile); f.Bytes)
+        return f;
     return {};
 }
 
@@ -242,7 +245,7 @@ void Include_Lesen()
                "No more than 100 include files are possible !");
     std::vector<Quell_Zeile> Zeilen =
         In_Zeilen(Text_Entschluesseln(std::move(*f.Bytes)).Text, f.Herkunft);
-    Include_Liste.push_back({Zeilen_Index, static_cast<int>(Zeilen.size())});
+    Include_Liste.push_back({Zeilen_Index, static_cast<int>(Zeilen.size()), f.Pfad.string()});
     Zeilen_Einsetzen(std::move(Zeilen));
     --Zeilen_Index;
 }

@@ -21,6 +21,10 @@ inline constexpr int Sim_RAM_Groesse  = 384;
 inline constexpr int Sim_XRAM_Groesse = 65536;
 inline constexpr int Code_Groesse     = 65536; // the program counter wraps to 0 here
 
+// The program counter behind an instruction: beyond the last address it begins anew.
+constexpr std::int32_t Im_Code(std::int32_t PC) { return PC < Code_Groesse ? PC : 0; }
+static_assert(Im_Code(Code_Groesse - 1) == Code_Groesse - 1 && Im_Code(Code_Groesse) == 0);
+
 inline constexpr std::uint8_t Stoppunkt_Opcode = 0xA5; // what the word STOP becomes
 
 // The machine. Written by the interpreter, the peripherals, the session and edits in the views;

@@ -183,7 +183,7 @@ Lauf_Ergebnis Befehl_Ausfuehren()
                                    static_cast<std::int32_t>(w.PC),
                                    static_cast<std::uint32_t>(Sim_Zyklen) +
                                        static_cast<std::uint32_t>(w.Konto.Zyklen()));
-    Sim_PC       = e.PC < Code_Groesse ? e.PC : 0;
+    Sim_PC       = Im_Code(e.PC);
     Sim_Zyklen   = static_cast<std::int32_t>(e.Zyklen);
     return {1, Lauf_Grund::Grenze, e.PC};
 }

@@ -23,9 +23,9 @@ constexpr std::int64_t Vollgas_Befehle = 400000; // a piece: one to five millise
 bool Runde_Faellig()
 {
     const double Jetzt = Plattform.Ereignisse->Sekunden();
-    if (std::abs(Jetzt - Sitzung.Naechste_Runde) < Runde_Abstand)
+    if (std::abs(Jetzt - Sitzung.Letzte_Runde) < Runde_Abstand)
         return false; // the clock begins anew at midnight
-    Sitzung.Naechste_Runde = Jetzt;
+    Sitzung.Letzte_Runde = Jetzt;
     return true;
 }
 

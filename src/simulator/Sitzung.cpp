@@ -58,7 +58,7 @@ void Stelle_Zeigen()
 // Behind the last address the program begins anew, as it does when it runs there.
 void PC_Setzen(std::int32_t Adresse)
 {
-    Sim_PC = Adresse < 0 || Adresse >= Code_Groesse ? 0 : Adresse;
+    Sim_PC = Im_Code(std::max(Adresse, std::int32_t{0}));
     Zeile_Anzeigen();
 }
 
@@ -77,9 +77,11 @@ void Befehl_Beginnen()
         Aenderungen_Vergessen();
 }
 
-// One call of the interpreter; as long as it lasts, Debug_Start_Stop ends it.
+// One call of the interpreter; as long as it lasts, Debug_Start_Stop ends it. The windows have
+// their turn when it takes long, not because the last turn was long ago.
 void Zeile_Simulieren()
 {
+    Sitzung.Letzte_Runde   = Plattform.Ereignisse->Sekunden();
     Sitzung.Schritt_Laeuft = true;
     Simulieren();
     Sitzung.Schritt_Laeuft = false;
@@ -100,6 +102,18 @@ void Start_Beschriften()
 }
 
 // --- the way into a session ---
+
+namespace {
+
+// The text and its view may be others than those of the session before.
+void Sicht_Vergessen()
+{
+    Sitzung.Oberste_Gezeigt  = -1;
+    Sitzung.Unterste_Gezeigt = -1;
+    Sitzung.Enge_Sicht       = false;
+}
+
+} // namespace
 
 bool Daten_Vorbereiten()
 {
@@ -136,9 +150,7 @@ void Zur_Ersten_Zeile()
     for (int i = 0; i < Code_Groesse && !Quell_Zeilen.empty() &&
                     Quell_Zeilen[static_cast<std::size_t>(Sim_Zeile)].Text.empty();
          ++i) {
-        Sim_PC += Laenge_Am_PC();
-        if (Sim_PC >= Code_Groesse)
-            Sim_PC = 0;
+        Sim_PC = Im_Code(Sim_PC + Laenge_Am_PC());
         Zeile_Der_Adresse();
     }
     Zeile_Anzeigen();
@@ -152,6 +164,7 @@ void Debug_Starten()
     Debugger_Aktiv = true;
     Plattform.Edit->Sperren(true);
     ++Sitzung.Nummer;
+    Sicht_Vergessen();
     Sim_Aufbauen();
     Aenderungen_Vergessen();
     Sitzungsfenster_Zeigen();
@@ -178,11 +191,7 @@ void Debug_Vorbereiten()
 namespace {
 
 // Leaves the stop point at the program address.
-void Stoppunkt_Verlassen()
-{
-    if (++Sim_PC >= Code_Groesse)
-        Sim_PC = 0;
-}
+void Stoppunkt_Verlassen() { Sim_PC = Im_Code(Sim_PC + 1); }
 
 // One line more, which shows where the program stands; a line without an end heeds the stop that
 // was asked for.

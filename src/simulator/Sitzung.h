@@ -27,12 +27,15 @@ inline struct Sitzung_T {
     std::uint32_t Nummer         = 0;     // counts the sessions begun
     // By address 0 to 65536: no row of the main text begins there, a search would be in vain.
     std::bitset<65537> Kein_Anfang{};
-    // Lines of the editor that are known to be in sight; -1: none.
+    // The first line of the editor's view, and the last one, that were brought into sight with the
+    // running line; -1: none.
     std::int64_t Oberste_Gezeigt  = -1;
     std::int64_t Unterste_Gezeigt = -1;
-    // When a running program lets windows and events have their turn, seconds since midnight.
-    double         Naechste_Runde = 0;
-    Befehls_Zeuge* Zeuge          = nullptr; // null: nobody wants to know
+    bool         Enge_Sicht       = false; // the view has no room for lines round the running one
+    // When a running program last let windows and events have their turn, or when it began;
+    // seconds since midnight.
+    double         Letzte_Runde = 0;
+    Befehls_Zeuge* Zeuge        = nullptr; // null: nobody wants to know
 } Sitzung;
 
 inline constinit auto& Debug_Stop         = Sitzung.Debug_Stop;

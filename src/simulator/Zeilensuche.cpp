@@ -69,9 +69,12 @@ bool Vorwaerts_Suchen(std::int32_t Zeile)
 }
 
 // Brings some lines above and below into sight, so that the running one isn't at the edge: the
-// control scrolls to what is selected. What is known to be in sight isn't selected again.
+// control scrolls to what is selected. What was brought into sight isn't selected again as long as
+// the text hasn't been scrolled, and nothing is where there is no room for it.
 void Umgebung_Zeigen(std::int64_t Zeile)
 {
+    if (Sitzung.Enge_Sicht)
+        return;
     Textfeld&          Edit  = *Plattform.Edit;
     const std::int64_t Oben  = std::max(Zeile - Umgebung, std::int64_t{0});
     const std::int64_t Unten = std::min(Zeile + Umgebung, Edit.Zeilen_Anzahl() - 1);
@@ -82,6 +85,15 @@ void Umgebung_Zeigen(std::int64_t Zeile)
     Edit.Auswaehlen(Edit.Zeile(Oben).Anfang, 0);
     Sitzung.Oberste_Gezeigt  = Edit.Erste_Zeile();
     Sitzung.Unterste_Gezeigt = Unten;
+}
+
+// The running line was selected. Where that alone scrolls the text the view has less than five
+// lines; it has them again, as behind a change of its size, when the line stands that far down.
+void Sicht_Beurteilen(std::int64_t Zeile)
+{
+    const std::int64_t Erste = Plattform.Edit->Erste_Zeile();
+    Sitzung.Enge_Sicht =
+        Sitzung.Enge_Sicht ? Zeile - Erste < Umgebung : Erste != Sitzung.Oberste_Gezeigt;
 }
 
 void Auswaehlen(std::int32_t Editor)
@@ -97,6 +109,7 @@ void Auswaehlen(std::int32_t Editor)
     const Textstelle_T     Code = Code_Stelle(Text.substr(static_cast<std::size_t>(Zeile.Anfang),
                                                       static_cast<std::size_t>(Zeile.Laenge)));
     Edit.Auswaehlen(Zeile.Anfang + Code.Anfang, Code.Laenge);
+    Sicht_Beurteilen(Nummer);
 }
 
 } // namespace
@@ -140,11 +153,8 @@ void Zeile_Anzeigen()
 // Bounded: a text without a line that the addresses meet ends after two rounds.
 void Naechste_Zeile()
 {
-    for (int i = 0; i < 2 * Code_Groesse && !Zeile_Suchen(); ++i) {
-        Sim_PC += Befehl_Laenge(Byte_An(Sim_PC));
-        if (Sim_PC >= Code_Groesse)
-            Sim_PC = 0;
-    }
+    for (int i = 0; i < 2 * Code_Groesse && !Zeile_Suchen(); ++i)
+        Sim_PC = Im_Code(Sim_PC + Befehl_Laenge(Byte_An(Sim_PC)));
 }
 
 std::int32_t Editor_Zeile_Von(std::int32_t Zeile)

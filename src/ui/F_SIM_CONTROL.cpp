@@ -13,7 +13,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -107,8 +106,7 @@ QString Wort(const char* D, const char* E) { return Qt_Text(In_Sprache({D, E}));
 F_SIM_CONTROL::F_SIM_CONTROL(Befehls_Weg Neuer_Weg)
     : Weg(std::move(Neuer_Weg)), L_Adr_Text(new QLabel), L_Adr(new QLabel), L_MT(new QLabel),
       L_Zyklen(new QLabel), Check1(new Haken_Feld({})), Check2(new Haken_Feld({})),
-      Knopf_Gitter(new QGridLayout),
-      Esc(new QShortcut(Qt::Key_Escape, this, nullptr, nullptr, Qt::ApplicationShortcut))
+      Knopf_Gitter(new QGridLayout)
 {
     setWindowTitle(QStringLiteral("CONTROL"));
     L_Adr_Text->setObjectName(QStringLiteral("L_Adr_Text"));
@@ -129,7 +127,6 @@ F_SIM_CONTROL::F_SIM_CONTROL(Befehls_Weg Neuer_Weg)
     connect(Check2, &QCheckBox::clicked, this, [this](bool An) {
         Ausfuehren([An] { Check2_Click(An); });
     });
-    connect(Esc, &QShortcut::activated, this, [this] { Ausfuehren(Debug_Start_Stop); });
     Nachziehen();
 }
 
@@ -207,7 +204,6 @@ void F_SIM_CONTROL::Nachziehen()
     Text_Zeigen(L_Zyklen, Sim_Ansichten.L_Zyklen);
     Haken_Zeigen(Check1, Debug_Verzoegerung);
     Haken_Zeigen(Check2, Debug_Vollgas);
-    Esc->setEnabled(Programm_Laeuft());
 }
 
 void F_SIM_CONTROL::Beschriften()

@@ -13,7 +13,6 @@ class QGridLayout;
 class QKeyEvent;
 class QLabel;
 class QPushButton;
-class QShortcut;
 
 namespace varnholt {
 
@@ -51,7 +50,6 @@ private:
     Haken_Feld*               Check1;
     Haken_Feld*               Check2;
     QGridLayout*              Knopf_Gitter;
-    QShortcut*                Esc; // stops what runs, wherever the focus is
     std::vector<QPushButton*> Knoepfe{};
     int                       Knopf_Spalten = 0;
     std::string               Gezeigte_Sprache{};

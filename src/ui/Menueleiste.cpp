@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QToolBar>
 
 #include <algorithm>
@@ -68,6 +69,7 @@ Menueleiste::Menueleiste(QMainWindow* Fenster, Ausfuehrer_T Ausfuehrer)
     Menues_Bauen();
     Geraete_Bauen();
     Leiste_Bauen();
+    Esc_Bauen();
     Bilder_Laden();
     for (std::size_t i = 0; i < Menue_Anzahl; ++i)
         Eintrag_Zeigen(i);
@@ -138,6 +140,19 @@ void Menueleiste::Leiste_Bauen()
     }
 }
 
+// Stops what runs, wherever the focus is. The main window has it: it is in sight whatever becomes
+// of the panel, and Qt serves no key of a widget that isn't.
+void Menueleiste::Esc_Bauen()
+{
+    Esc = new QShortcut(Qt::Key_Escape, Besitzer, nullptr, nullptr, Qt::ApplicationShortcut);
+    Esc->setEnabled(false);
+    const auto Halten = [] {
+        if (Programm_Laeuft())
+            Debug_Start_Stop();
+    };
+    connect(Esc, &QShortcut::activated, this, [this, Halten] { Ausfuehren(Halten, true); });
+}
+
 void Menueleiste::Bilder_Laden()
 {
     const QPalette p = Besitzer->palette();
@@ -206,6 +221,7 @@ void Menueleiste::Nachziehen()
     }
     if (Laeuft_Gezeigt != Programm_Laeuft())
         Start_Bild_Zeigen();
+    Esc->setEnabled(Programm_Laeuft());
 }
 
 QMenu* Menueleiste::Menue_Von(std::string_view Name) const

@@ -11,6 +11,7 @@
 class QAction;
 class QMainWindow;
 class QMenu;
+class QShortcut;
 class QToolBar;
 
 namespace varnholt {
@@ -35,6 +36,7 @@ private:
     void Menues_Bauen();
     void Geraete_Bauen();
     void Leiste_Bauen();
+    void Esc_Bauen();
     void Eintrag_Zeigen(std::size_t Platz);
     void Menueleiste_Beschriften();
     void Knopf_Zeigen(int Position);
@@ -49,6 +51,7 @@ private:
     QMainWindow*                                         Besitzer;
     Ausfuehrer_T                                         Ausfuehren;
     QToolBar*                                            Leiste = nullptr;
+    QShortcut*                                           Esc    = nullptr; // alive during a run
     std::array<QAction*, Menue_Anzahl>                   Eintraege{};
     std::array<QMenu*, Menue_Anzahl>                     Untermenues{};
     std::array<QAction*, Werkzeug_Plaetze + 1>           Knoepfe{};

@@ -590,6 +590,30 @@ TEST_F(Simulate, no_output_is_written_over_the_processor_file_or_another_output)
     EXPECT_EQ(Laufe("a.bin", {"--trace", "/dev/null", "--xram-out", "/dev/null"}).Status, 0);
 }
 
+TEST_F(Simulate, no_output_is_written_over_an_included_file)
+{
+    const std::string Include = "SUB1: INC A\n RET\n";
+    std::filesystem::create_directory(Ordner / "sub");
+    Schreiben("sub/b.inc", Include);
+    Schreiben("own.mc", "P0 DATA 80h\n");
+    Schreiben("a.asm", "INCLUDE own.mc\n LCALL SUB1\n STOP\nINCLUDE sub/b.inc\n");
+    std::filesystem::create_symlink(Ordner / "sub/b.inc", Ordner / "soft.inc");
+    ASSERT_EQ(Laufe("a.asm").Status, 0);
+    for (const char* Option : {"--trace", "--xram-out"})
+        for (const std::string Name : {"sub/b.inc", "./sub/../sub/b.inc", "soft.inc", "own.mc"}) {
+            const auto r = Laufe("a.asm", {Option, Name});
+            EXPECT_EQ(r.Status, 2) << Option << Name;
+            EXPECT_EQ(r.Fehler,
+                      "varnholt-cli: "s + Option + " " + Name + ": that is an included file\n");
+            EXPECT_EQ(r.Aus, "");
+            EXPECT_EQ(Lesen("sub/b.inc"), Include);
+            EXPECT_EQ(Lesen("own.mc"), "P0 DATA 80h\n");
+        }
+    EXPECT_EQ(Deutsch({"simulate", "a.asm", "--trace", "own.mc"}).Fehler,
+              "varnholt-cli: --trace own.mc: das ist eine Include-Datei\n");
+    EXPECT_EQ(Laufe("a.asm", {"--trace", "sub/c.inc"}).Status, 0);
+}
+
 // --- help ---
 
 TEST_F(Simulate, help_and_man_page_tell_its_options)

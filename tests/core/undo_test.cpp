@@ -333,6 +333,15 @@ TEST_F(Undo_Test, a_ring_of_one_slot_finds_nothing_to_undo)
     EXPECT_EQ(Undo_Index, 0);
 }
 
+TEST_F(Undo_Test, a_ring_of_one_slot_offers_no_step_of_an_earlier_document)
+{
+    Undo_Max = 0;
+    Undo_Zuruecksetzen();
+    Undo_Knoepfe_Stellen(); // as at the end of a debugger session
+    EXPECT_TRUE(Undo_Aus());
+    EXPECT_TRUE(Redo_Aus());
+}
+
 TEST_F(Undo_Test, after_undo_a_changed_line_goes_into_the_slot_on_display_and_ends_redo)
 {
     Feld.Text_Setzen("0");

@@ -892,6 +892,36 @@ TEST_F(Schritte_Test, Keys_that_only_move_or_command_leave_the_steps_to_redo_alo
     EXPECT_EQ(Edit.Inhalt, "abcx");
 }
 
+TEST_F(Schritte_Test, Keys_in_the_locked_text_of_a_session_leave_the_steps_to_redo_alone)
+{
+    const auto Sitzung_Mit_Tasten = [] {
+        Debugger_Aktiv = true;
+        Undo_Knoepfe_Sperren();
+        for (const Taste_T& Taste : {Buchstabe('a'), Code(Taste_Enter), Code(Taste_Links), Code(0)})
+            Text_KeyDown(Taste);
+        Text_Ohne_Taste(); // as an input method does
+        Debugger_Aktiv = false;
+        Undo_Knoepfe_Stellen();
+    };
+    Edit.Text_Setzen("\r\nx");
+    Tippen("abc");
+    Gehen(Edit.Laenge());
+    Text_KeyDown(Strg('Z'));
+    Text_KeyDown(Strg('Z'));
+    ASSERT_EQ(Edit.Inhalt, "\r\nx");
+    ASSERT_TRUE(Menue("MNU_Redo").Aktiv);
+    Sitzung_Mit_Tasten();
+    EXPECT_FALSE(Undo_Taste);
+    ASSERT_TRUE(Menue("MNU_Redo").Aktiv);
+    MNU_Redo_Click();
+    EXPECT_EQ(Edit.Inhalt, "abc\r\nx");
+    MNU_Undo_Click();
+    Sitzung_Mit_Tasten();
+    EXPECT_TRUE(Menue("MNU_Redo").Aktiv) << "behind a redo the next key counts as the first one";
+    MNU_Redo_Click();
+    EXPECT_EQ(Edit.Inhalt, "abc\r\nx");
+}
+
 TEST_F(Schritte_Test, Each_key_that_types_counts_also_after_an_undo)
 {
     for (const Taste_T& Taste : {Buchstabe('a'),

@@ -676,6 +676,27 @@ TEST_F(Sitzung_Test, The_start_command_reads_stop_while_a_step_takes_long)
     }
 }
 
+TEST_F(Sitzung_Test, A_step_that_is_soon_through_takes_no_turn)
+{
+    Include_Datei("sub.inc", "; 511 instructions\nSUB1: DJNZ R0,SUB1\nSUB2: DJNZ R0,SUB2\n RET\n");
+    ASSERT_TRUE(Programm("LOOP: LCALL SUB1\nSJMP LOOP\nINCLUDE sub.inc\n"));
+    Ereignisse.Je_Blick = 0.001;
+    for (int i = 0; i < 3; ++i) {
+        Ereignisse.Uhrzeit += 10; // the user thinks it over
+        const int Runden = Ereignisse.Runden;
+        Debug_Schritt();
+        Erwarte_Stelle(3, Sim_Zyklen, "SJMP LOOP");
+        Debug_Schritt();
+        EXPECT_EQ(Ereignisse.Runden, Runden) << "the button would flash";
+    }
+    EXPECT_GT(Sim_Zyklen, 3 * 511);
+    Ereignisse.Je_Blick = 0.015; // the second look is due
+    Ereignisse.Uhrzeit += 10;
+    const int Runden = Ereignisse.Runden;
+    Debug_Schritt();
+    EXPECT_EQ(Ereignisse.Runden, Runden + 1);
+}
+
 TEST_F(Sitzung_Test, A_run_shows_the_control_panel)
 {
     ASSERT_TRUE(Programm(Kleines));

@@ -3,6 +3,8 @@
 
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
+#include <numeric>
 #include <optional>
 #include <utility>
 
@@ -358,6 +360,112 @@ TEST_F(Zeilensuche_Test, The_editor_takes_the_selection_for_no_event_of_the_user
     Text_Sperre = true;
     Debug_Schritt();
     EXPECT_TRUE(Text_Sperre) << "as it was before";
+}
+
+// --- lines round the running one ---
+
+// A control that scrolls to what is selected, no further than it must.
+class Roll_Text : public Speicher_Text {
+public:
+    void Auswaehlen(std::int64_t Anfang, std::int64_t Laenge_Der_Auswahl) override
+    {
+        Speicher_Text::Auswaehlen(Anfang, Laenge_Der_Auswahl);
+        const std::int64_t Hier = Zeile_Von(Anfang);
+        Erste_Sichtbare         = std::clamp(Erste_Sichtbare, Hier - Hoehe + 1, Hier);
+        ++Auswahlen;
+    }
+    bool Zeigt(std::int64_t Von, std::int64_t Bis) const
+    {
+        return Erste_Sichtbare <= Von && Bis < Erste_Sichtbare + Hoehe;
+    }
+    std::int64_t Hoehe     = 30; // lines of the view
+    int          Auswahlen = 0;
+};
+
+class Sicht_Test : public Zeilensuche_Test {
+protected:
+    // A row and a line for each address from 0 on, of which the first one is shown.
+    Sicht_Test()
+    {
+        Plattform.Edit = &Roll;
+        std::vector<std::int32_t> Adressen(100);
+        std::iota(Adressen.begin(), Adressen.end(), 0);
+        std::string Zeilen;
+        for (int i = 0; i < 100; ++i)
+            Zeilen += "NOP\r\n";
+        Roll.Text_Setzen(Zeilen);
+        Tabelle(Adressen);
+        Zeigen(0);
+    }
+    // How many selections it took.
+    int Zeigen(std::int32_t Adresse)
+    {
+        Roll.Auswahlen = 0;
+        Sim_PC         = Adresse;
+        Zeile_Anzeigen();
+        EXPECT_EQ(Roll.Auswahl(), (Textstelle_T{5 * Adresse, 3}));
+        EXPECT_TRUE(Roll.Zeigt(Adresse, Adresse));
+        return Roll.Auswahlen;
+    }
+    Roll_Text Roll{};
+};
+
+TEST_F(Sicht_Test, Four_lines_on_each_side_come_into_sight_once)
+{
+    EXPECT_EQ(Zeigen(50), 3);
+    EXPECT_TRUE(Roll.Zeigt(46, 54));
+    EXPECT_EQ(Zeigen(50), 1);
+    EXPECT_EQ(Zeigen(49), 1);
+    EXPECT_EQ(Zeigen(51), 3);
+    EXPECT_TRUE(Roll.Zeigt(47, 55));
+    EXPECT_EQ(Zeigen(20), 3);
+    EXPECT_TRUE(Roll.Zeigt(16, 24));
+    Roll.Erste_Sichtbare = 60; // the user scrolls
+    EXPECT_EQ(Zeigen(20), 3);
+    EXPECT_TRUE(Roll.Zeigt(16, 24));
+}
+
+TEST_F(Sicht_Test, In_a_view_of_less_than_five_lines_only_the_running_one_is_selected)
+{
+    for (const int Hoehe : {1, 2, 4}) {
+        Roll.Hoehe = Hoehe;
+        Zeigen(10);
+        for (const int Adresse : {10, 11, 12, 60, 60, 5, 0, 99, 98})
+            EXPECT_EQ(Zeigen(Adresse), 1) << Hoehe << " " << Adresse;
+        Sitzung.Enge_Sicht = false;
+    }
+    Roll.Hoehe = 5;
+    EXPECT_EQ(Zeigen(40), 3);
+    EXPECT_EQ(Zeigen(40), 1);
+    EXPECT_EQ(Zeigen(41), 3) << "it has room for the lines above";
+    EXPECT_TRUE(Roll.Zeigt(37, 41));
+}
+
+TEST_F(Sicht_Test, A_view_that_grows_shows_the_lines_around_again)
+{
+    Roll.Hoehe = 3;
+    Zeigen(50);
+    ASSERT_EQ(Zeigen(51), 1);
+    Roll.Hoehe = 20;
+    for (int i = 52; i < 58; ++i)
+        Zeigen(i);
+    EXPECT_TRUE(Roll.Zeigt(53, 61));
+    Roll.Hoehe = 3;
+    Zeigen(20);
+    Roll.Hoehe = 20;
+    Zeigen(80); // far down: at the lower edge
+    Zeigen(81);
+    EXPECT_TRUE(Roll.Zeigt(77, 85));
+}
+
+TEST_F(Zeilensuche_Test, A_session_takes_nothing_for_shown_that_one_before_has_shown)
+{
+    Sitzung.Oberste_Gezeigt  = 0;
+    Sitzung.Unterste_Gezeigt = 1000;
+    Sitzung.Enge_Sicht       = true;
+    ASSERT_TRUE(Programm("INC A\nSTOP\n"));
+    EXPECT_FALSE(Sitzung.Enge_Sicht);
+    EXPECT_EQ(Sitzung.Unterste_Gezeigt, 3);
 }
 
 // --- the next line ---

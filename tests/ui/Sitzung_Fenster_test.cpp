@@ -755,6 +755,42 @@ TEST_F(Sitzung_Test, a_step_into_an_endless_included_routine_is_stopped_like_a_r
         }
 }
 
+TEST_F(Sitzung_Test, Esc_stops_what_runs_also_while_the_panel_is_out_of_sight)
+{
+    std::filesystem::create_directory(Heim + "include");
+    Datei_Anlegen(Heim + "include/sub.inc", "SUB1: INC R0\r\n SJMP SUB1\r\n");
+    Vorbereiten("INCLUDE 8051.mc\n LCALL SUB1\n NOP\n INCLUDE sub.inc\n");
+    auto* Rahmen = qobject_cast<QMdiSubWindow*>(Suchen("F_SIM_CONTROL"));
+    ASSERT_NE(Rahmen, nullptr);
+    const std::function<void()> Wege[] = {[&] { Rahmen->showMinimized(); },
+                                          [&] { Rahmen->close(); }};
+    for (const auto& Weg : Wege)
+        for (const bool Lauf : {false, true}) {
+            int    Runden = 0;
+            QTimer Hand;
+            QObject::connect(&Hand, &QTimer::timeout, &Hand, [&] {
+                if (!Programm_Laeuft() || ++Runden < 3)
+                    return;
+                if (Runden > 100)
+                    Debug_Stop = true;
+                if (Runden > 3)
+                    return;
+                Weg(); // a run shows the panel when it starts
+                EXPECT_FALSE(Tafel()->isVisible());
+                QTest::keyClick(Edit(), Qt::Key_Escape);
+            });
+            Hand.start(0);
+            Aktion(Lauf ? "MNU_deb_Starten" : "MNU_deb_Einzelschritt")->trigger();
+            Hand.stop();
+            EXPECT_FALSE(Programm_Laeuft());
+            EXPECT_TRUE(Debugger_Aktiv);
+            EXPECT_GE(Runden, 3);
+            EXPECT_LT(Runden, 100);
+        }
+    QTest::keyClick(Edit(), Qt::Key_Escape); // nothing runs
+    EXPECT_FALSE(Programm_Laeuft());
+}
+
 TEST_F(Sitzung_Test, the_captions_of_a_run_follow_a_change_of_the_language)
 {
     Vorbereiten();
