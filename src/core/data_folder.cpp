@@ -11,6 +11,7 @@
 #include <system_error>
 #include <vector>
 
+#include <fcntl.h>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -49,16 +50,52 @@ bool Eigener_Ordner(const fs::path& Pfad)
 
 // --- filling up ---
 
+// The copy is on the disk before anything else happens to it.
+void Auf_Die_Platte(const fs::path& Pfad)
+{
+    if (const int Griff = ::open(Pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW); Griff >= 0) {
+        ::fsync(Griff);
+        ::close(Griff);
+    }
+}
+
+// A file, or a folder with all that it holds, as one that the user may write in even where the
+// installed one can't be written. False when some of it couldn't be copied.
+bool Kopieren(const fs::path& Von, const fs::path& Nach)
+{
+    std::error_code Fehler;
+    bool            Ganz = true;
+    if (fs::is_directory(Von, Fehler)) {
+        Ganz = fs::create_directory(Nach, Fehler);
+        for (const fs::path& Stueck : Eintraege(Von))
+            Ganz = Ganz && Kopieren(Stueck, Nach / Stueck.filename());
+    } else {
+        Ganz = fs::copy_file(Von, Nach, Fehler);
+        fs::permissions(Nach, fs::perms::owner_write, fs::perm_options::add, Fehler);
+    }
+    Auf_Die_Platte(Nach);
+    return Ganz;
+}
+
 // Under a temporary name first: a run that is killed meanwhile leaves no half of a file, and no
-// folder of samples that would count as the user's.
+// folder of samples that would count as the user's. What a killed run of the same process number
+// left under that name goes.
 void Stueck_Kopieren(const fs::path& Von, const fs::path& Nach, const fs::path& Ordner)
 {
     std::error_code Fehler;
     const fs::path  Zwischen = Ordner / Zwischen_Name(0);
-    fs::copy(Von, Zwischen, fs::copy_options::recursive, Fehler);
-    if (!Fehler && Fehlt(Nach))
+    fs::remove_all(Zwischen, Fehler);
+    if (Kopieren(Von, Zwischen) && Fehlt(Nach))
         fs::rename(Zwischen, Nach, Fehler);
     fs::remove_all(Zwischen, Fehler);
+}
+
+// What a run writes into its program folder, should the installed one have served as that.
+bool Ist_Laufzeitdatei(const fs::path& Name)
+{
+    const std::string n = Name.string();
+    return n == "Varnholt.ini" || n == "Varnholt.lock" || n == "startup" || n == "Autosave" ||
+           n.starts_with("Undo") || n.starts_with(Vorsilbe);
 }
 
 bool Ist_Beispielordner(const fs::path& Name)
@@ -72,6 +109,8 @@ void Unterordner_Ergaenzen(const fs::path& Von, const fs::path& Nach, const fs::
     for (const fs::path& Stueck : Eintraege(Von)) {
         std::error_code Fehler;
         const fs::path  Ziel = Nach / Stueck.filename();
+        if (Ist_Laufzeitdatei(Stueck.filename()))
+            continue;
         if (Fehlt(Ziel))
             Stueck_Kopieren(Stueck, Ziel, Ordner);
         else if (fs::is_directory(Stueck, Fehler) && Eigener_Ordner(Ziel) &&

@@ -1,5 +1,6 @@
 // The mode change: assembles or disassembles what is not in step, and brings the other main window
 // to the front.
+#include "core/captions.h"
 #include "core/commands.h"
 #include "core/menu.h"
 #include "core/platform.h"
@@ -32,7 +33,7 @@ bool Text_Erneuern()
     if (!Disassemblieren())
         return false;
     Quell_Datei = {}; // no file stands behind the new text
-    Plattform.Ereignisse->Titel(Fenster_Edit, "MC-Editor (*)");
+    Editor_Titel_Ohne_Namen(Fenster_Edit);
     return true;
 }
 
@@ -43,7 +44,7 @@ bool Bild_Erneuern()
     if (Plattform.Edit->Laenge() > 0 && !Text_Aktuell) {
         Assemblieren();
         Quellzeilen_Loeschen();
-        Plattform.Ereignisse->Titel(Fenster_Hexedit, "Hex-Editor (*)");
+        Editor_Titel_Ohne_Namen(Fenster_Hexedit);
     }
     return std::exchange(Assembler_Fehler, 0) != 1;
 }

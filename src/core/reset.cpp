@@ -1,6 +1,7 @@
 // The whole program as at its start. A new state group gets its line here.
 #include "core/reset.h"
 
+#include "core/captions.h"
 #include "core/clipboard.h"
 #include "core/instance.h"
 #include "core/interface_texts.h"
@@ -39,12 +40,13 @@ void Alles_Zuruecksetzen()
 {
     Gemeinsames_Zuruecksetzen();
     Optionen_Zuruecksetzen();
-    Optionen_Form = {};
-    Fensterlage   = {};
-    Menues        = {};
-    Oberflaeche   = {};
-    Ablage        = {};
-    Ansichten     = {};
+    Optionen_Form      = {};
+    Fensterlage        = {};
+    Menues             = {};
+    Oberflaeche        = {};
+    Ablage             = {};
+    Ansichten          = {};
+    Editor_Titel_Stand = {};
     Assembler_Zuruecksetzen();
     Quelltext_Zuruecksetzen();
     Einfaerben_Zuruecksetzen();

@@ -215,8 +215,10 @@ bool Lesen(const Hilfe_Platz&, std::string_view Zeile, int)
             return Zeile.empty() && &Ziel == Zahlen.data();
         Zeile.remove_prefix(static_cast<std::size_t>(Ende - Zeile.data()));
     }
+    if (!Ohne_Leerraum(Zeile).empty())
+        return false;
     Hilfe_Merken({Zahlen[0], Zahlen[1], Zahlen[2], Zahlen[3]});
-    return Ohne_Leerraum(Zeile).empty();
+    return true;
 }
 std::string Schreiben(const Hilfe_Platz&, int)
 {

@@ -331,7 +331,9 @@ void Absturz_Pruefen()
 void Ordner_Pruefen()
 {
     Instanz_Anmelden();
-    if (Instanz.Marke_Gehoert) // no other run writes here, wherever it may be
+    // Two runs that begin together don't clear away side by side. One that goes on beside this one
+    // is known by its process.
+    if (Instanz.Marken_Sperre.Gehalten())
         Reste_Entfernen(Programm_Ordner());
     Ordner_Anlegen(Undo_Ordner);
     Ordner_Anlegen("Autosave");

@@ -175,7 +175,7 @@ void MNU_Save_Click()
         return MNU_SaveAs_Click();
     Datei_Speichern();
     if (Datei_Fehler == Dateifehler::Keiner)
-        Titel_Gespeichert();
+        Titel_Nach_Speichern();
 }
 
 void MNU_SaveAs_Click()

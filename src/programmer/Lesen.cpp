@@ -1,11 +1,13 @@
 // Reading a memory device on the Eprommer, and the menu command that reads a device into the image.
 #include "programmer/Lesen.h"
 
+#include "core/captions.h"
 #include "core/commands.h"
 #include "core/messages.h"
 #include "core/session.h"
 #include "core/settings.h"
 #include "core/shared_state.h"
+#include "core/windows.h"
 #include "programmer/ATMEL_Zugriff.h"
 #include "programmer/Atmel_Zugriff_II.h"
 #include "programmer/Baustein.h"
@@ -136,7 +138,7 @@ bool Ungesichertes_Freigegeben()
            Knoepfe::Ja_Nein_Abbrechen,
            Symbol::Frage);
     if (Antwort == Antwort_Ja)
-        Datei_Speichern();
+        MNU_Save_Click();
     return Antwort == Antwort_Nein;
 }
 
@@ -151,8 +153,8 @@ void Puffer_Ins_Bild()
 void Dokument_Ohne_Namen()
 {
     Datei_Name.clear();
-    Plattform.Ereignisse->Titel(2, "MC-Editor (*)");
-    Plattform.Ereignisse->Titel(1, "Hex-Editor (*)");
+    Editor_Titel_Ohne_Namen(Fenster_Edit);
+    Editor_Titel_Ohne_Namen(Fenster_Hexedit);
 }
 
 void Ansichten_Nach_Lesen()

@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QStyle>
 #include <QTextDocument>
 #include <QVBoxLayout>
 
@@ -57,7 +58,8 @@ void Hilfe_Fenster::Platz_Nehmen()
     const QScreen* Schirm = QGuiApplication::screenAt(Alt.center());
     if (Schirm == nullptr)
         return;
-    const QRect Sichtbar = Alt & Schirm->availableGeometry();
+    const int   Kopf     = style()->pixelMetric(QStyle::PM_TitleBarHeight); // stays in reach
+    const QRect Sichtbar = Alt & Schirm->availableGeometry().adjusted(0, Kopf, 0, 0);
     if (Sichtbar.width() >= Kleinste && Sichtbar.height() >= Kleinste)
         setGeometry(Sichtbar);
 }
@@ -65,7 +67,7 @@ void Hilfe_Fenster::Platz_Nehmen()
 void Hilfe_Fenster::Platz_Merken() const
 {
     const QRect r = geometry();
-    if (isVisible() && !isMinimized() && !isMaximized())
+    if (isVisible() && !isMinimized() && !isMaximized() && !isFullScreen())
         Hilfe_Merken({r.top(), r.left(), r.height(), r.width()});
 }
 

@@ -65,6 +65,9 @@ MDI::MDI()
     Zeile    = new Statuszeile(this);
     Waechter = new Dateiwaechter(this);
     setStatusBar(Zeile);
+    connect(Zeile, &Statuszeile::Board_Gewuenscht, this, [this] {
+        Leisten->Eintrag("MNU_EEprommer")->trigger();
+    });
     Welt_Einsetzen();
     Kinder_Verbinden();
     QCoreApplication::instance()->installEventFilter(new Feld_Ruecknahme(this));

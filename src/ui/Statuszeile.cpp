@@ -11,6 +11,7 @@
 #include "ui/Qt_Text.h"
 
 #include <QLabel>
+#include <QMouseEvent>
 #include <QTimer>
 #include <fmt/format.h>
 
@@ -85,7 +86,8 @@ Statuszeile::Statuszeile(QWidget* Eltern) : QStatusBar(Eltern), Hinweis(new QLab
     Stelle     = Neues_Feld(this, "Status_Stelle", u"Zeile 99999, Spalte 999");
     Baustein   = Neues_Feld(this, "Status_Baustein", u"AT89C51");
     Port       = Neues_Feld(this, "Status_Port", u"Port: 378h");
-    Zeichen    = Neues_Feld(this, "Status_Kodierung", u"UTF-8, LF");
+    Port->installEventFilter(this);
+    Zeichen = Neues_Feld(this, "Status_Kodierung", u"UTF-8, LF");
 }
 
 void Statuszeile::Nachziehen(int Zeile, int Spalte)
@@ -97,8 +99,30 @@ void Statuszeile::Nachziehen(int Zeile, int Spalte)
     Zeigen(Stelle, MC ? Qt_Text(Ort) : Hex_Stelle());
     const std::string Name = IC_Menue_Name();
     Zeigen(Baustein, Qt_Text(Name.empty() ? In_Sprache({"Kein IC", "No IC"}) : Name));
-    Zeigen(Port, QStringLiteral("Port: ") + Qt_Text(Port_Beschreibung()));
+    Port_Zeigen();
     Zeigen(Zeichen, MC ? Kodierung_Name() + QStringLiteral(", ") + Zeilenende_Name() : QString());
+}
+
+// Behind the simulated port stands a window, which a click opens.
+void Statuszeile::Port_Zeigen()
+{
+    const bool Simuliert = Port_Art == Art_Simuliert;
+    Zeigen(Port, QStringLiteral("Port: ") + Qt_Text(Port_Beschreibung()));
+    Port->setToolTip(Simuliert ? Qt_In_Sprache({"Klick: das Fenster des simulierten Boards",
+                                                "Click: the window of the simulated board"})
+                               : QString());
+    const Qt::CursorShape Zeiger = Simuliert ? Qt::PointingHandCursor : Qt::ArrowCursor;
+    if (Port->cursor().shape() != Zeiger)
+        Port->setCursor(Zeiger);
+}
+
+bool Statuszeile::eventFilter(QObject* Feld, QEvent* Ereignis)
+{
+    if (Feld == Port && Ereignis->type() == QEvent::MouseButtonRelease &&
+        Port_Art == Art_Simuliert &&
+        static_cast<QMouseEvent*>(Ereignis)->button() == Qt::LeftButton)
+        emit Board_Gewuenscht();
+    return QStatusBar::eventFilter(Feld, Ereignis);
 }
 
 void Statuszeile::Hinweisen(std::string_view Text)

@@ -19,7 +19,15 @@ public:
     void Nachziehen(int Zeile, int Spalte);
     void Hinweisen(std::string_view Text);
 
+signals:
+    void Board_Gewuenscht(); // a click on the port, where that is the simulated one
+
+protected:
+    bool eventFilter(QObject* Feld, QEvent* Ereignis) override;
+
 private:
+    void Port_Zeigen();
+
     QLabel* Hinweis    = nullptr;
     QLabel* Modus_Feld = nullptr;
     QLabel* Stelle     = nullptr;

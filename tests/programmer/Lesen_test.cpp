@@ -6,6 +6,7 @@
 #include "programmer/Brenner_Welt.h"
 #include "programmer/Brenner_Zustand.h"
 #include "programmer/Lesen.h"
+#include "support/Arbeitsordner.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -546,6 +547,21 @@ TEST_F(Lesen_Test, yes_saves_and_reads_nothing)
     EXPECT_TRUE(std::filesystem::exists(Datei));
     EXPECT_EQ(Hex_Daten[0], 1);
     std::filesystem::remove(Datei);
+}
+
+TEST_F(Lesen_Test, yes_never_writes_the_image_over_the_source)
+{
+    Einsetzen("27C64", 4);
+    const Arbeitsordner Ordner;
+    Datei_Name      = Ordner.Anlegen("a.asm", "\tNOP\n");
+    Modus           = Modus_Hex;
+    Datei_Geaendert = true;
+    Box.Antworten   = {Antwort_Ja};
+    MNU_IC_Lesen_Click();
+    EXPECT_EQ(Bytes_Von(Ordner.Pfad / "a.asm"), "\tNOP\n");
+    EXPECT_EQ(Ordner.Inhalt(), std::vector<std::string>{"a.asm"}) << "the dialog was cancelled";
+    EXPECT_TRUE(Datei_Geaendert);
+    EXPECT_EQ(Spur(), "");
 }
 
 TEST_F(Lesen_Test, where_no_box_can_appear_unsaved_work_is_kept)

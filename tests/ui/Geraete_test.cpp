@@ -180,6 +180,13 @@ protected:
         QApplication::processEvents();
         return Offene("Board");
     }
+    // A click on the port in the status line.
+    QDialog* Port_Klicken(Qt::MouseButton Knopf = Qt::LeftButton)
+    {
+        QTest::mouseClick(Suchen("Status_Port"), Knopf);
+        QApplication::processEvents();
+        return Offene("Board");
+    }
     void Datei_Kommt(const std::string& Name)
     {
         Antworten.Naechstes([Name](QWidget* w) {
@@ -860,6 +867,24 @@ TEST_F(Geraete_Test, a_microcontroller_is_locked_and_then_reads_as_locked)
     ASSERT_NE(Form, nullptr);
     EXPECT_EQ(Wert(Form, "Zustand_IC"), "Clear");
     Druecken(Form, "Button_OK");
+}
+
+TEST_F(Geraete_Test, a_click_on_the_simulated_port_in_the_status_line_opens_its_window)
+{
+    Starten_Mit_Bildern("D");
+    EXPECT_EQ(Suchen("Status_Port")->toolTip(),
+              QStringLiteral("Klick: das Fenster des simulierten Boards"));
+    EXPECT_EQ(Port_Klicken(Qt::RightButton), nullptr);
+    QDialog* Board = Port_Klicken();
+    ASSERT_NE(Board, nullptr);
+    Druecken(Board, "Zu");
+    Aktion("MNU_Englisch")->trigger();
+    EXPECT_EQ(Suchen("Status_Port")->toolTip(),
+              QStringLiteral("Click: the window of the simulated board"));
+    Port_Art = "ppdev";
+    Fenster->Nachziehen();
+    EXPECT_EQ(Port_Klicken(), nullptr);
+    EXPECT_EQ(Suchen("Status_Port")->toolTip(), QString());
 }
 
 TEST_F(Geraete_Test, the_small_parts_have_no_mode_4_and_cancel_writes_nothing)

@@ -510,6 +510,23 @@ TEST_F(Sterne, a_save_whose_notes_could_not_be_written_keeps_the_star)
     Fenster->Ausfuehren(MNU_Save_Click);
     Beide_Ohne(Pfad);
 }
+TEST_F(Sterne, a_saved_image_leaves_the_star_of_the_source_that_it_was_made_of)
+{
+    Beginnen();
+    const std::string Pfad = Laden("a.asm", "\tNOP\n");
+    In(Fenster_Edit);
+    Tippen("; more\n");
+    Taste(Qt::Key_F2, Qt::ShiftModifier);
+    ASSERT_EQ(Modus, Modus_Hex);
+    Datei_Name = Heim + "a.bin";
+    Fenster->Ausfuehren(MNU_Save_Click);
+    EXPECT_EQ(Titel("Hexedit"), "Hex-Editor " + Heim + "a.bin");
+    EXPECT_EQ(Titel("Edit"), "MC-Editor (*)" + Pfad);
+    Taste(Qt::Key_F1, Qt::ShiftModifier);
+    Datei_Name = Pfad;
+    Fenster->Ausfuehren(MNU_Save_Click);
+    Beide_Ohne(Pfad);
+}
 TEST_F(Sterne, an_image_written_by_an_assembly_leaves_the_star_of_the_source)
 {
     Beginnen();
