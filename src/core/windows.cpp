@@ -5,7 +5,6 @@
 #include "core/commands.h"
 #include "core/interface_texts.h"
 #include "core/menu.h"
-#include "core/session.h"
 #include "core/shared_state.h"
 #include "core/views.h"
 #include "editors/Nachschlagen.h"
